@@ -1,0 +1,12 @@
+# GoogleTest from Debian's source package, compiled with the flags of each preset.
+set(OXA_GTEST_SOURCE /usr/src/googletest)
+if(NOT EXISTS ${OXA_GTEST_SOURCE}/googletest/src/gtest-all.cc)
+    message(FATAL_ERROR "GoogleTest's sources were not found in ${OXA_GTEST_SOURCE}: install the package googletest")
+endif()
+add_library(oxa_gtest STATIC ${OXA_GTEST_SOURCE}/googletest/src/gtest-all.cc)
+target_include_directories(oxa_gtest SYSTEM PUBLIC ${OXA_GTEST_SOURCE}/googletest/include)
+target_include_directories(oxa_gtest SYSTEM PRIVATE ${OXA_GTEST_SOURCE}/googletest)
+if(NOT WIN32)
+    find_package(Threads REQUIRED)
+    target_link_libraries(oxa_gtest PUBLIC Threads::Threads)
+endif()
