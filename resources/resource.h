@@ -1,0 +1,115 @@
+// The ids of the library's resources. Numbers are part of the library's interface: hosts may load them by number.
+#pragma once
+
+#ifndef IDC_STATIC
+#define IDC_STATIC (-1)
+#endif
+
+// Dialog templates
+#define IDD_EDIT_WITH_BROWSE 8273
+#define IDD_UNIT 22005
+#define IDD_STYLE 22006
+#define IDD_VISUALISATION 22007
+#define IDD_DESTINATION 22020
+
+// Menu
+#define IDM_SECTION 22004
+
+// Icons
+#define IDI_SELECT_ALL 22002
+#define IDI_SELECT_NONE 22003
+
+// Bitmaps
+#define IDB_FOLDER_IMAGES 22021
+#define IDB_SECTION 22025
+#define IDB_RULER 22027
+#define IDB_DROP_BUTTON 22028
+#define IDB_DROP_BUTTON_OFF 22029
+#define IDB_CHECK_IMAGES 22030
+#define IDB_BAR_BACKGROUND 22041
+
+// Texts
+#define IDS_ADD_TITLE 22008
+#define IDS_DELETE_TITLE 22009
+#define IDS_DELETE_QUESTION 22010
+#define IDS_FORMAT_REFUSED 22011
+#define IDS_SELECT_ALL 22012
+#define IDS_SELECT_NONE 22013
+#define IDS_APPLY_TIP 22014
+#define IDS_OK_TIP 22015
+#define IDS_APPLY 22016
+#define IDS_AUTOMATIC 22017
+#define IDS_MANUAL 22018
+#define IDS_OK 22019
+#define IDS_UNIT_TYPES 22020
+#define IDS_TYPE 22021
+#define IDS_PRECISION 22022
+#define IDS_OTHERS 22023
+#define IDS_MY_DOCUMENTS 22024
+#define IDS_DESKTOP 22025
+#define IDS_METRES 22026
+#define IDS_DECIMETRES 22027
+#define IDS_CENTIMETRES 22028
+#define IDS_MILLIMETRES 22029
+#define IDS_INCHES 22030
+#define IDS_FEET 22031
+#define IDS_UNIT_SAVE_FAILED 22032
+#define IDS_UNIT_CHANGE_QUESTION 22033
+#define IDS_FORMAT 22034
+#define IDS_DECIMAL 22035
+#define IDS_ARCHITECTURE 22036
+#define IDS_ENGINEERING 22037
+#define IDS_INVALID_DATA 22038
+#define IDS_USE_DEFAULT_SYMBOL 22039
+#define IDS_DEFAULT_SYMBOL 22040
+
+// Commands of the menu
+#define ID_SECTION_CHOOSE 22050
+#define ID_SECTION_EDIT 22051
+#define ID_SECTION_DELETE 22052
+
+// Controls of the working units dialog
+#define IDC_HELP_BUTTON 9
+#define IDC_STYLE_NEW 1011
+#define IDC_STYLE_RENAME 1012
+#define IDC_STYLE_DELETE 1013
+#define IDC_STYLE_LIST 1014
+#define IDC_UNIT_GROUP 1035
+#define IDC_UNIT_GRID 1036
+#define IDC_INPUT_UNIT_LIST 1047
+#define IDC_INPUT_UNIT_LABEL 1049
+#define IDC_INPUT_UNIT_GROUP 1050
+#define IDC_STYLE_GROUP 1051
+#define IDC_STYLE_LABEL 1052
+
+// Controls of the style dialog
+#define IDC_STYLE_NAME 1033
+#define IDC_STYLE_NAME_LABEL 1340
+
+// Controls of the visualisation dialog
+#define IDC_VISUALISATION_LIST 1004
+#define IDC_VISUALISATION_FRAME 1005
+#define IDC_VISUALISATION_LABEL 1034
+
+// Controls of the browse edit
+#define IDC_BROWSE_TEXT 1334
+#define IDC_BROWSE_BUTTON 1339
+
+// Controls of the destination dialog
+#define IDC_DESTINATION_LABEL 1341
+#define IDC_DESTINATION_TREE 1342
+#define IDC_DESTINATION_PATH_LABEL 1343
+#define IDC_DESTINATION_PATH 1344
+
+// Help texts (type HELPTEXTS), also the help ids of the controls
+#define HELP_UNIT_DIALOG 153077
+#define HELP_UNIT_STYLE 22101
+#define HELP_UNIT_NEW 22102
+#define HELP_UNIT_RENAME 22103
+#define HELP_UNIT_DELETE 22104
+#define HELP_UNIT_GRID 22105
+#define HELP_UNIT_INPUT 22106
+#define HELP_STYLE_NAME 22107
+#define HELP_VISUALISATION_LIST 22108
+#define HELP_BROWSE_TEXT 22109
+#define HELP_BROWSE_BUTTON 22110

@@ -1,0 +1,13 @@
+// The ids of the sibling's own resources.
+#pragma once
+
+#define IDI_UNITS 20922
+
+#define IDS_VALUE_OUT_OF_RANGE 20901
+#define IDS_STYLE_NEW_TITLE 20902
+#define IDS_STYLE_DELETE_QUESTION 20903
+#define IDS_STYLE_RENAME_TITLE 20904
+#define IDS_STYLE_BASE_NAME 20905
+#define IDS_STYLE_LAST_REFUSED 20906
+#define IDS_CANCEL 20907
+#define IDS_STYLE_NAME_TAKEN 20908
