@@ -18,29 +18,33 @@ class CCmdUI;
 typedef void (AFX_MSG_CALL CCmdTarget::*AFX_PMSG)();
 
 /// One line of a message map.
-struct AFX_MSGMAP_ENTRY {
-    UINT nMessage;   ///< message number; 0xC000 for a registered message; 0 ends the map
-    UINT nCode;      ///< notification code or CN_ code
-    UINT nID;        ///< first command or control id
-    UINT nLastID;    ///< last id of a range
-    UINT_PTR nSig;   ///< AfxSig, or the address of the variable that holds a registered message
-    AFX_PMSG pfn;    ///< the handler
+struct AFX_MSGMAP_ENTRY
+{
+    UINT nMessage; ///< message number; 0xC000 for a registered message; 0 ends the map
+    UINT nCode;    ///< notification code or CN_ code
+    UINT nID;      ///< first command or control id
+    UINT nLastID;  ///< last id of a range
+    UINT_PTR nSig; ///< AfxSig, or the address of the variable that holds a registered message
+    AFX_PMSG pfn;  ///< the handler
 };
 
 /// A class's message map with the way to its base class's map.
-struct AFX_MSGMAP {
+struct AFX_MSGMAP
+{
     const AFX_MSGMAP* (*pfnGetBaseMap)();
     const AFX_MSGMAP_ENTRY* lpEntries;
 };
 
 /// Answer of OnCmdMsg to the question "who would handle it?".
-struct AFX_CMDHANDLERINFO {
+struct AFX_CMDHANDLERINFO
+{
     CCmdTarget* pTarget;
     AFX_PMSG pmf;
 };
 
 /// What travels with a routed WM_NOTIFY.
-struct AFX_NOTIFY {
+struct AFX_NOTIFY
+{
     LRESULT* pResult;
     NMHDR* pNMHDR;
 };
@@ -50,7 +54,8 @@ constexpr int CN_EVENT = -2;
 constexpr int CN_UPDATE_COMMAND_UI = -1;
 
 /// Base of windows, threads, applications: everything with a message map.
-class KXAFX_API CCmdTarget : public CObject {
+class KXAFX_API CCmdTarget : public CObject
+{
     DECLARE_DYNAMIC(CCmdTarget)
 public:
     /// Routes a command (or a notification, with its message in the high word of code).
@@ -71,4 +76,4 @@ protected:
 
 /// Searches one map (not its bases); null when there is no such line.
 KXAFX_API const AFX_MSGMAP_ENTRY* AfxFindMessageEntry(const AFX_MSGMAP_ENTRY* entries, UINT message, UINT code,
-                                                     UINT id);
+                                                      UINT id);

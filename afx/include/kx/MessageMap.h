@@ -7,8 +7,7 @@
 constexpr UINT WM_REFLECT_BASE = 0xBC00;
 
 /// Erases the type of a handler; the dispatcher gives it back before the call.
-template <class Handler>
-inline AFX_PMSG KxEraseHandler(Handler handler)
+template <class Handler> inline AFX_PMSG KxEraseHandler(Handler handler)
 {
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wcast-function-type"
@@ -33,13 +32,11 @@ protected:                                                                      
         static const AFX_MSGMAP_ENTRY messageEntries[] = {
 
 #define BEGIN_TEMPLATE_MESSAGE_MAP(theClass, type_name, baseClass)                                                     \
-    template <typename type_name>                                                                                      \
-    const AFX_MSGMAP* theClass<type_name>::GetMessageMap() const                                                       \
+    template <typename type_name> const AFX_MSGMAP* theClass<type_name>::GetMessageMap() const                         \
     {                                                                                                                  \
         return GetThisMessageMap();                                                                                    \
     }                                                                                                                  \
-    template <typename type_name>                                                                                      \
-    const AFX_MSGMAP* theClass<type_name>::GetThisMessageMap()                                                         \
+    template <typename type_name> const AFX_MSGMAP* theClass<type_name>::GetThisMessageMap()                           \
     {                                                                                                                  \
         typedef theClass<type_name> ThisClass [[maybe_unused]];                                                        \
         typedef baseClass TheBaseClass;                                                                                \
@@ -57,8 +54,8 @@ protected:                                                                      
 
 // Building blocks: an entry for a handler of a routed command, and one for a window message.
 #define KX_CMD_ENTRY(message, code, id, lastId, sig, type, memberFxn)                                                  \
-    {message, static_cast<UINT>(static_cast<WORD>(code)), static_cast<UINT>(id), static_cast<UINT>(lastId), sig,       \
-     KxEraseHandler(static_cast<type>(memberFxn))},
+    {message, static_cast<UINT>(static_cast<WORD>(code)),  static_cast<UINT>(id), static_cast<UINT>(lastId),           \
+     sig,     KxEraseHandler(static_cast<type>(memberFxn))},
 #define KX_WND_ENTRY(message, sig, type, memberFxn)                                                                    \
     {message, 0, 0, 0, sig, KxEraseHandler(static_cast<type>(memberFxn))},
 
@@ -81,7 +78,7 @@ protected:                                                                      
     KX_CMD_ENTRY(WM_COMMAND, CN_UPDATE_COMMAND_UI, id, idLast, AfxSigCmdUI, void (CCmdTarget::*)(CCmdUI*), memberFxn)
 #define ON_UPDATE_COMMAND_UI_REFLECT(memberFxn)                                                                        \
     KX_CMD_ENTRY(WM_COMMAND + WM_REFLECT_BASE, CN_UPDATE_COMMAND_UI, 0, 0xFFFF, AfxSigCmdUI,                           \
-                 void (CCmdTarget::*)(CCmdUI*), memberFxn)
+                 void(CCmdTarget::*)(CCmdUI*), memberFxn)
 
 // void memberFxn()
 #define ON_CONTROL(code, id, memberFxn)                                                                                \
@@ -91,10 +88,10 @@ protected:                                                                      
     KX_CMD_ENTRY(WM_COMMAND, code, id, idLast, AfxSigCmd_range, void (CCmdTarget::*)(UINT), memberFxn)
 // void memberFxn(); the parent is not asked any more
 #define ON_CONTROL_REFLECT(code, memberFxn)                                                                            \
-    KX_CMD_ENTRY(WM_COMMAND + WM_REFLECT_BASE, code, 0, 0, AfxSigCmd_v, void (CCmdTarget::*)(), memberFxn)
+    KX_CMD_ENTRY(WM_COMMAND + WM_REFLECT_BASE, code, 0, 0, AfxSigCmd_v, void(CCmdTarget::*)(), memberFxn)
 // BOOL memberFxn(); FALSE lets the parent have it too
 #define ON_CONTROL_REFLECT_EX(code, memberFxn)                                                                         \
-    KX_CMD_ENTRY(WM_COMMAND + WM_REFLECT_BASE, code, 0, 0, AfxSigCmd_b, BOOL (CCmdTarget::*)(), memberFxn)
+    KX_CMD_ENTRY(WM_COMMAND + WM_REFLECT_BASE, code, 0, 0, AfxSigCmd_b, BOOL(CCmdTarget::*)(), memberFxn)
 
 // void memberFxn(NMHDR*, LRESULT*)
 #define ON_NOTIFY(code, id, memberFxn)                                                                                 \
@@ -111,26 +108,33 @@ protected:                                                                      
     KX_CMD_ENTRY(WM_NOTIFY, code, id, idLast, AfxSigNotify_ex, BOOL (CCmdTarget::*)(UINT, NMHDR*, LRESULT*), memberFxn)
 // void memberFxn(NMHDR*, LRESULT*); the parent is not asked any more
 #define ON_NOTIFY_REFLECT(code, memberFxn)                                                                             \
-    KX_CMD_ENTRY(WM_NOTIFY + WM_REFLECT_BASE, code, 0, 0, AfxSigNotify_v, void (CCmdTarget::*)(NMHDR*, LRESULT*),      \
+    KX_CMD_ENTRY(WM_NOTIFY + WM_REFLECT_BASE, code, 0, 0, AfxSigNotify_v, void(CCmdTarget::*)(NMHDR*, LRESULT*),       \
                  memberFxn)
 // BOOL memberFxn(NMHDR*, LRESULT*); FALSE lets the parent have it too
 #define ON_NOTIFY_REFLECT_EX(code, memberFxn)                                                                          \
-    KX_CMD_ENTRY(WM_NOTIFY + WM_REFLECT_BASE, code, 0, 0, AfxSigNotify_b, BOOL (CCmdTarget::*)(NMHDR*, LRESULT*),      \
+    KX_CMD_ENTRY(WM_NOTIFY + WM_REFLECT_BASE, code, 0, 0, AfxSigNotify_b, BOOL(CCmdTarget::*)(NMHDR*, LRESULT*),       \
                  memberFxn)
 
 // LRESULT memberFxn(WPARAM, LPARAM)
-#define ON_MESSAGE(message, memberFxn)                                                                                 \
-    KX_WND_ENTRY(message, AfxSig_l_w_l, LRESULT (CWnd::*)(WPARAM, LPARAM), memberFxn)
+#define ON_MESSAGE(message, memberFxn) KX_WND_ENTRY(message, AfxSig_l_w_l, LRESULT (CWnd::*)(WPARAM, LPARAM), memberFxn)
 // LRESULT memberFxn(WPARAM, LPARAM); the variable is read at each message
 #define ON_REGISTERED_MESSAGE(messageVariable, memberFxn)                                                              \
-    {0xC000, 0, 0, 0, reinterpret_cast<UINT_PTR>(&messageVariable),                                                    \
+    {0xC000,                                                                                                           \
+     0,                                                                                                                \
+     0,                                                                                                                \
+     0,                                                                                                                \
+     reinterpret_cast<UINT_PTR>(&messageVariable),                                                                     \
      KxEraseHandler(static_cast<LRESULT (CWnd::*)(WPARAM, LPARAM)>(memberFxn))},
 // void memberFxn(WPARAM, LPARAM) of a CWinThread
 #define ON_THREAD_MESSAGE(message, memberFxn)                                                                          \
     KX_WND_ENTRY(message, AfxSig_v_w_l, void (CWinThread::*)(WPARAM, LPARAM), memberFxn)
 // void memberFxn(WPARAM, LPARAM) of a CWinThread
 #define ON_REGISTERED_THREAD_MESSAGE(messageVariable, memberFxn)                                                       \
-    {0xC000, 0, 0, 0, reinterpret_cast<UINT_PTR>(&messageVariable),                                                    \
+    {0xC000,                                                                                                           \
+     0,                                                                                                                \
+     0,                                                                                                                \
+     0,                                                                                                                \
+     reinterpret_cast<UINT_PTR>(&messageVariable),                                                                     \
      KxEraseHandler(static_cast<void (CWinThread::*)(WPARAM, LPARAM)>(memberFxn))},
 
 // void memberFxn() for the notification codes of the standard controls
