@@ -1,0 +1,4 @@
+// The name under which CPoint, CSize and CRect are also included.
+#pragma once
+
+#include "kx/Geometry.h"
