@@ -8,8 +8,7 @@ namespace kx
 {
 
 /// A pointer, handle or number as it travels in a message.
-template <class Value>
-LPARAM asParam(Value value)
+template <class Value> LPARAM asParam(Value value)
 {
     if constexpr (std::is_null_pointer_v<Value>)
         return 0;

@@ -20,9 +20,7 @@ bool loadNamed(CBitmap& bitmap, LPCTSTR name)
 IMPLEMENT_DYNAMIC(CButton, CWnd)
 IMPLEMENT_DYNAMIC(CBitmapButton, CButton)
 
-CButton::DECLARE_DYNAMIC(CButton)
-public:
-CButton() {}
+CButton::CButton() = default;
 
 CButton::~CButton()
 {
@@ -129,9 +127,7 @@ BOOL CButton::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT*
     return TRUE;
 }
 
-CBitmapButton::DECLARE_DYNAMIC(CBitmapButton)
-public:
-CBitmapButton() {}
+CBitmapButton::CBitmapButton() = default;
 
 CBitmapButton::CBitmapButton(LPCTSTR lpszBitmapResource, LPCTSTR lpszBitmapResourceSel, LPCTSTR lpszBitmapResourceFocus,
                              LPCTSTR lpszBitmapResourceDisabled)

@@ -11,9 +11,7 @@ using kx::itemText;
 
 IMPLEMENT_DYNAMIC(CComboBox, CWnd)
 
-CComboBox::DECLARE_DYNAMIC(CComboBox)
-public:
-CComboBox() {}
+CComboBox::CComboBox() = default;
 
 CComboBox::~CComboBox()
 {

@@ -322,10 +322,7 @@ HGDIOBJ CDC::SelectBoth(HGDIOBJ object)
                : onBoth(*this, static_cast<HGDIOBJ>(nullptr), [=](HDC dc) { return ::SelectObject(dc, object); });
 }
 
-CPaintDC::DECLARE_DYNAMIC(CPaintDC)
-public:
-/// Throws a resource exception when the window gives none.
-CPaintDC(CWnd* pWnd) : m_hWnd(pWnd->GetSafeHwnd())
+CPaintDC::CPaintDC(CWnd* pWnd) : m_hWnd(pWnd->GetSafeHwnd())
 {
     if (!Attach(::BeginPaint(m_hWnd, &m_ps)))
         AfxThrowResourceException();
@@ -337,9 +334,7 @@ CPaintDC::~CPaintDC()
     Detach();
 }
 
-CClientDC::DECLARE_DYNAMIC(CClientDC)
-public:
-CClientDC(CWnd* pWnd) : m_hWnd(pWnd->GetSafeHwnd())
+CClientDC::CClientDC(CWnd* pWnd) : m_hWnd(pWnd->GetSafeHwnd())
 {
     if (!Attach(::GetDC(m_hWnd)))
         AfxThrowResourceException();
@@ -350,9 +345,7 @@ CClientDC::~CClientDC()
     ::ReleaseDC(m_hWnd, Detach());
 }
 
-CWindowDC::DECLARE_DYNAMIC(CWindowDC)
-public:
-CWindowDC(CWnd* pWnd) : m_hWnd(pWnd->GetSafeHwnd())
+CWindowDC::CWindowDC(CWnd* pWnd) : m_hWnd(pWnd->GetSafeHwnd())
 {
     if (!Attach(::GetWindowDC(m_hWnd)))
         AfxThrowResourceException();

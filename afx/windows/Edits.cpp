@@ -9,9 +9,7 @@ using kx::createControl;
 
 IMPLEMENT_DYNAMIC(CEdit, CWnd)
 
-CEdit::DECLARE_DYNAMIC(CEdit)
-public:
-CEdit() {}
+CEdit::CEdit() = default;
 
 CEdit::~CEdit()
 {

@@ -1,9 +1,7 @@
 // Bitmaps and palettes.
 #include <afxwin.h>
 
-CBitmap::DECLARE_DYNAMIC(CBitmap)
-public:
-CBitmap() {}
+CBitmap::CBitmap() = default;
 
 CBitmap::operator HBITMAP() const
 {
@@ -80,9 +78,7 @@ CSize CBitmap::GetBitmapDimension() const
     return size;
 }
 
-CPalette::DECLARE_DYNAMIC(CPalette)
-public:
-CPalette() {}
+CPalette::CPalette() = default;
 
 CPalette::operator HPALETTE() const
 {

@@ -1,9 +1,7 @@
 // Regions.
 #include <afxwin.h>
 
-CRgn::DECLARE_DYNAMIC(CRgn)
-public:
-CRgn() {}
+CRgn::CRgn() = default;
 
 CRgn::operator HRGN() const
 {

@@ -3,9 +3,7 @@
 
 #include <cstdlib>
 
-CPen::DECLARE_DYNAMIC(CPen)
-public:
-CPen() {}
+CPen::CPen() = default;
 
 CPen::CPen(int nPenStyle, int nWidth, COLORREF crColor)
 {
@@ -52,9 +50,7 @@ int CPen::GetExtLogPen(EXTLOGPEN* pLogPen)
     return GetObject(sizeof(EXTLOGPEN), pLogPen);
 }
 
-CBrush::DECLARE_DYNAMIC(CBrush)
-public:
-CBrush() {}
+CBrush::CBrush() = default;
 
 CBrush::CBrush(COLORREF crColor)
 {
@@ -124,9 +120,7 @@ int CBrush::GetLogBrush(LOGBRUSH* pLogBrush)
     return GetObject(sizeof(LOGBRUSH), pLogBrush);
 }
 
-CFont::DECLARE_DYNAMIC(CFont)
-public:
-CFont() {}
+CFont::CFont() = default;
 
 CFont::operator HFONT() const
 {

@@ -11,9 +11,7 @@ using kx::itemText;
 
 IMPLEMENT_DYNAMIC(CListBox, CWnd)
 
-CListBox::DECLARE_DYNAMIC(CListBox)
-public:
-CListBox() {}
+CListBox::CListBox() = default;
 
 CListBox::~CListBox()
 {

@@ -7,9 +7,7 @@ using kx::createControl;
 
 IMPLEMENT_DYNAMIC(CScrollBar, CWnd)
 
-CScrollBar::DECLARE_DYNAMIC(CScrollBar)
-public:
-CScrollBar() {}
+CScrollBar::CScrollBar() = default;
 
 CScrollBar::~CScrollBar()
 {

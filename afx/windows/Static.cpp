@@ -9,9 +9,7 @@ using kx::createControl;
 
 IMPLEMENT_DYNAMIC(CStatic, CWnd)
 
-CStatic::DECLARE_DYNAMIC(CStatic)
-public:
-CStatic() {}
+CStatic::CStatic() = default;
 
 CStatic::~CStatic()
 {

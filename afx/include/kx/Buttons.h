@@ -1,13 +1,14 @@
 // Static controls and buttons.
 #pragma once
-#include <kx/Dc.h>
-#include <kx/Wnd.h>
+#include "kx/Dc.h"
+#include "kx/Wnd.h"
 
 /// A static text, frame or picture.
 class KXAFX_API CStatic : public CWnd
 {
     DECLARE_DYNAMIC(CStatic)
-    public;
+public:
+    CStatic();
     ~CStatic() override;
     virtual BOOL Create(LPCTSTR lpszText, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID = 0xFFFF);
 
@@ -32,7 +33,8 @@ protected:
 class KXAFX_API CButton : public CWnd
 {
     DECLARE_DYNAMIC(CButton)
-    public;
+public:
+    CButton();
     ~CButton() override;
     virtual BOOL Create(LPCTSTR lpszCaption, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
 
@@ -70,7 +72,8 @@ protected:
 class KXAFX_API CBitmapButton : public CButton
 {
     DECLARE_DYNAMIC(CBitmapButton)
-    public;
+public:
+    CBitmapButton();
     CBitmapButton(LPCTSTR lpszBitmapResource, LPCTSTR lpszBitmapResourceSel = nullptr,
                   LPCTSTR lpszBitmapResourceFocus = nullptr, LPCTSTR lpszBitmapResourceDisabled = nullptr);
     CBitmapButton(UINT nIDBitmapResource, UINT nIDBitmapResourceSel = 0, UINT nIDBitmapResourceFocus = 0,

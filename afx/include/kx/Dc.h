@@ -1,6 +1,6 @@
 // Device contexts: CDC, and those of a painted window, of a client area and of a whole window.
 #pragma once
-#include <kx/Gdi.h>
+#include "kx/Gdi.h"
 
 class CMenu;
 class CWnd;
@@ -321,7 +321,9 @@ private:
 class KXAFX_API CPaintDC : public CDC
 {
     DECLARE_DYNAMIC(CPaintDC)
-    public;
+public:
+    /// Throws a resource exception when the window gives none.
+    explicit CPaintDC(CWnd* pWnd);
     ~CPaintDC() override;
     PAINTSTRUCT m_ps = {};
 
@@ -333,7 +335,8 @@ protected:
 class KXAFX_API CClientDC : public CDC
 {
     DECLARE_DYNAMIC(CClientDC)
-    public;
+public:
+    explicit CClientDC(CWnd* pWnd);
     ~CClientDC() override;
 
 protected:
@@ -344,7 +347,8 @@ protected:
 class KXAFX_API CWindowDC : public CDC
 {
     DECLARE_DYNAMIC(CWindowDC)
-    public;
+public:
+    explicit CWindowDC(CWnd* pWnd);
     ~CWindowDC() override;
 
 protected:

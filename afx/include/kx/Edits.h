@@ -1,12 +1,13 @@
 // Edit fields and scroll bars.
 #pragma once
-#include <kx/Wnd.h>
+#include "kx/Wnd.h"
 
 /// An edit field. Positions count characters from 0; lines count from 0.
 class KXAFX_API CEdit : public CWnd
 {
     DECLARE_DYNAMIC(CEdit)
-    public;
+public:
+    CEdit();
     ~CEdit() override;
     virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
 
@@ -81,7 +82,8 @@ class KXAFX_API CEdit : public CWnd
 class KXAFX_API CScrollBar : public CWnd
 {
     DECLARE_DYNAMIC(CScrollBar)
-    public;
+public:
+    CScrollBar();
     ~CScrollBar() override;
     virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
 

@@ -1,7 +1,7 @@
 // The GDI objects: pens, brushes, fonts, bitmaps, palettes and regions that own their handle.
 #pragma once
 #include <afx.h>
-#include <kx/Export.h>
+#include "kx/Export.h"
 #include <windows.h>
 #include <commctrl.h>
 
@@ -55,7 +55,8 @@ protected:
 class KXAFX_API CPen : public CGdiObject
 {
     DECLARE_DYNAMIC(CPen)
-    public;
+public:
+    CPen();
     CPen(int nPenStyle, int nWidth, COLORREF crColor);
     CPen(int nPenStyle, int nWidth, const LOGBRUSH* pLogBrush, int nStyleCount = 0, const DWORD* lpStyle = nullptr);
     operator HPEN() const;
@@ -73,7 +74,8 @@ class KXAFX_API CPen : public CGdiObject
 class KXAFX_API CBrush : public CGdiObject
 {
     DECLARE_DYNAMIC(CBrush)
-    public;
+public:
+    CBrush();
     explicit CBrush(COLORREF crColor);
     CBrush(int nIndex, COLORREF crColor);
     explicit CBrush(CBitmap* pBitmap);
@@ -95,7 +97,8 @@ class KXAFX_API CBrush : public CGdiObject
 class KXAFX_API CFont : public CGdiObject
 {
     DECLARE_DYNAMIC(CFont)
-    public;
+public:
+    CFont();
     operator HFONT() const;
     static CFont* PASCAL FromHandle(HFONT hFont);
 
@@ -114,7 +117,8 @@ class KXAFX_API CFont : public CGdiObject
 class KXAFX_API CBitmap : public CGdiObject
 {
     DECLARE_DYNAMIC(CBitmap)
-    public;
+public:
+    CBitmap();
     operator HBITMAP() const;
     static CBitmap* PASCAL FromHandle(HBITMAP hBitmap);
 
@@ -140,7 +144,8 @@ class KXAFX_API CBitmap : public CGdiObject
 class KXAFX_API CPalette : public CGdiObject
 {
     DECLARE_DYNAMIC(CPalette)
-    public;
+public:
+    CPalette();
     operator HPALETTE() const;
     static CPalette* PASCAL FromHandle(HPALETTE hPalette);
 
@@ -159,7 +164,8 @@ class KXAFX_API CPalette : public CGdiObject
 class KXAFX_API CRgn : public CGdiObject
 {
     DECLARE_DYNAMIC(CRgn)
-    public;
+public:
+    CRgn();
     operator HRGN() const;
     static CRgn* PASCAL FromHandle(HRGN hRgn);
 

@@ -13,8 +13,7 @@ namespace kx
 
 /// The objects that own a handle, by handle and by the thread that attached it. Any thread may remove an object, so
 /// that a deleted one leaves no entry behind; only the thread that attached it finds it.
-template <class Object>
-class HandleOwners
+template <class Object> class HandleOwners
 {
 public:
     void add(HANDLE handle, Object* owner)
@@ -42,8 +41,7 @@ private:
 
 /// The temporary objects of one thread. An object of one handle is made once for each class that is asked for, so
 /// that a handle that the system used again for something else gives no object of the wrong class.
-template <class Object>
-class TemporaryObjects
+template <class Object> class TemporaryObjects
 {
 public:
     using Release = void (*)(Object&);
@@ -54,8 +52,7 @@ public:
     TemporaryObjects& operator=(const TemporaryObjects&) = delete;
     ~TemporaryObjects() { clear(); }
 
-    template <class Wanted, class Fill>
-    Wanted* get(HANDLE handle, Fill fill)
+    template <class Wanted, class Fill> Wanted* get(HANDLE handle, Fill fill)
     {
         std::unique_ptr<Object>& slot = m_objects[{handle, std::type_index(typeid(Wanted))}];
         if (slot == nullptr)

@@ -1,12 +1,13 @@
 // List boxes and combo boxes.
 #pragma once
-#include <kx/Wnd.h>
+#include "kx/Wnd.h"
 
 /// A list box. A result of LB_ERR says that there is no such item, LB_ERRSPACE that memory is short.
 class KXAFX_API CListBox : public CWnd
 {
     DECLARE_DYNAMIC(CListBox)
-    public;
+public:
+    CListBox();
     ~CListBox() override;
     virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
 
@@ -87,7 +88,8 @@ protected:
 class KXAFX_API CComboBox : public CWnd
 {
     DECLARE_DYNAMIC(CComboBox)
-    public;
+public:
+    CComboBox();
     ~CComboBox() override;
     virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
 

@@ -1,7 +1,7 @@
 // Menus.
 #pragma once
 #include <afx.h>
-#include <kx/Export.h>
+#include "kx/Export.h"
 #include <windows.h>
 
 class CBitmap;
