@@ -1,0 +1,87 @@
+// Names of control messages, by number and by the class of the control that sent a command.
+#include "MessageNames.h"
+#include <afxcmn.h>
+#include <array>
+#include <cwchar>
+
+namespace
+{
+struct Name
+{
+    UINT number;
+    const wchar_t* text;
+};
+
+constexpr std::array ownMessages = {Name{0xA5B, L"WM_KX_UNIT_FOCUS"}, Name{0xA5C, L"WM_KX_UNIT_VALIDATED"}};
+
+constexpr std::array comboCodes = {
+    Name{CBN_SELCHANGE, L"CBN_SELCHANGE"},   Name{CBN_DBLCLK, L"CBN_DBLCLK"},
+    Name{CBN_SETFOCUS, L"CBN_SETFOCUS"},     Name{CBN_KILLFOCUS, L"CBN_KILLFOCUS"},
+    Name{CBN_EDITCHANGE, L"CBN_EDITCHANGE"}, Name{CBN_EDITUPDATE, L"CBN_EDITUPDATE"},
+    Name{CBN_DROPDOWN, L"CBN_DROPDOWN"},     Name{CBN_CLOSEUP, L"CBN_CLOSEUP"},
+    Name{CBN_SELENDOK, L"CBN_SELENDOK"},     Name{CBN_SELENDCANCEL, L"CBN_SELENDCANCEL"},
+};
+constexpr std::array editCodes = {
+    Name{EN_SETFOCUS, L"EN_SETFOCUS"}, Name{EN_KILLFOCUS, L"EN_KILLFOCUS"}, Name{EN_CHANGE, L"EN_CHANGE"},
+    Name{EN_UPDATE, L"EN_UPDATE"},     Name{EN_MAXTEXT, L"EN_MAXTEXT"},
+};
+constexpr std::array buttonCodes = {
+    Name{BN_CLICKED, L"BN_CLICKED"},
+    Name{BN_DOUBLECLICKED, L"BN_DOUBLECLICKED"},
+    Name{BN_SETFOCUS, L"BN_SETFOCUS"},
+    Name{BN_KILLFOCUS, L"BN_KILLFOCUS"},
+};
+constexpr std::array listCodes = {
+    Name{LBN_SELCHANGE, L"LBN_SELCHANGE"},
+    Name{LBN_DBLCLK, L"LBN_DBLCLK"},
+    Name{LBN_SETFOCUS, L"LBN_SETFOCUS"},
+    Name{LBN_KILLFOCUS, L"LBN_KILLFOCUS"},
+};
+
+template <class Table> CString find(const Table& table, UINT number, const wchar_t* kind)
+{
+    for (const Name& name : table)
+        if (name.number == number)
+            return name.text;
+    CString text;
+    text.Format(L"%s 0x%X", kind, number);
+    return text;
+}
+
+CString nameOfCommand(UINT code, HWND control)
+{
+    wchar_t name[32] = L"";
+    GetClassNameW(control, name, 32);
+    if (_wcsicmp(name, L"ComboBox") == 0)
+        return find(comboCodes, code, L"CBN");
+    if (_wcsicmp(name, L"Edit") == 0)
+        return find(editCodes, code, L"EN");
+    if (_wcsicmp(name, L"Button") == 0)
+        return find(buttonCodes, code, L"BN");
+    if (_wcsicmp(name, L"ListBox") == 0)
+        return find(listCodes, code, L"LBN");
+    return find(std::array<Name, 0>{}, code, L"WM_COMMAND");
+}
+} // namespace
+
+bool isControlMessage(UINT message, LPARAM lParam)
+{
+    if (message == WM_COMMAND)
+        return lParam != 0;
+    return message == WM_NOTIFY || message == WM_HSCROLL || message == WM_VSCROLL ||
+           (message >= WM_USER && message < 0xC000 && message != WM_USER &&
+            message != WM_USER + 1); // not the dialog's own
+}
+
+CString nameOfControlMessage(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_COMMAND)
+        return nameOfCommand(HIWORD(wParam), reinterpret_cast<HWND>(lParam));
+    if (message == WM_NOTIFY)
+    {
+        CString text;
+        text.Format(L"WM_NOTIFY %d", static_cast<int>(reinterpret_cast<const NMHDR*>(lParam)->code));
+        return text;
+    }
+    return find(ownMessages, message, L"message");
+}

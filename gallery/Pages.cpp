@@ -1,0 +1,13 @@
+// The list of pages.
+#include "PageFormats.h"
+#include "PageTips.h"
+#include "PageUnits.h"
+
+std::vector<std::unique_ptr<CPage>> makePages()
+{
+    std::vector<std::unique_ptr<CPage>> pages;
+    pages.push_back(std::make_unique<CPageUnits>());
+    pages.push_back(std::make_unique<CPageFormats>());
+    pages.push_back(std::make_unique<CPageTips>());
+    return pages;
+}
