@@ -19,19 +19,19 @@ struct Row
     const wchar_t* tip;
 };
 
-constexpr unsigned int length = 1, force = 4, stress = 5; // overwritten below when the families are known
+constexpr unsigned int length = 1, force = 2, stress = 6; // unit families
 
 const std::array rows = {
-    Row{IDC_UNIT_METRE, length, 0, 3, enumUNITFORMAT(0), {1.0, 2.5, 12.345}, L"Metres, three decimals"},
-    Row{IDC_UNIT_MILLIMETRE, length, 3, 1, enumUNITFORMAT(0), {0.008, 0.01, 0.012}, L"Millimetres, one decimal"},
-    Row{IDC_UNIT_FEET, length, 5, 4, enumUNITFORMAT(1), {0.3048, 0.4572, 3.048}, L"Feet and inches"},
-    Row{IDC_UNIT_FORCE, force, 1, 2, enumUNITFORMAT(0), {1000.0, 2500.0, 100000.0}, L"Kilonewtons, two decimals"},
-    Row{IDC_UNIT_STRESS, stress, 1, 1, enumUNITFORMAT(0), {235e6, 355e6, 500e6}, L"Megapascals, one decimal"},
+    Row{IDC_UNIT_METRE, length, 0, 3, UNITFORMAT_DECIMAL, {1.0, 2.5, 12.345}, L"Metres, three decimals"},
+    Row{IDC_UNIT_MILLIMETRE, length, 3, 1, UNITFORMAT_DECIMAL, {0.008, 0.01, 0.012}, L"Millimetres, one decimal"},
+    Row{IDC_UNIT_FEET, length, 5, 4, UNITFORMAT_ARCHITECTURAL, {0.3048, 0.4572, 3.048}, L"Feet and inches"},
+    Row{IDC_UNIT_FORCE, force, 2, 2, UNITFORMAT_DECIMAL, {1000.0, 2500.0, 100000.0}, L"Kilonewtons, two decimals"},
+    Row{IDC_UNIT_STRESS, stress, 2, 1, UNITFORMAT_DECIMAL, {235e6, 355e6, 500e6}, L"Megapascals, one decimal"},
 };
 
 CString canonicalText(const CKxUnit& unit, double value)
 {
-    wchar_t buffer[CKxUnit::c_maxTextLength];
+    wchar_t buffer[CKxUnit::c_nTextSize];
     return unit.Double2String(buffer, value, 1, L"%.*f", 1, 1, 50);
 }
 } // namespace
