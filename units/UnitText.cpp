@@ -1,10 +1,11 @@
 // The shape test of typed numbers, and the fixed way in which a unit is asked to read and print.
-#include "units/UnitText.h"
+#include "UnitText.h"
 
 #include <algorithm>
 #include <string_view>
 
-namespace {
+namespace
+{
 
 constexpr std::wstring_view digits = L"0123456789";
 constexpr std::wstring_view firstCharacters = L"+-.,0123456789";
@@ -24,7 +25,8 @@ bool HasDigit(std::wstring_view text)
 bool UnitText::MayBeNumber(const CString& text)
 {
     const std::wstring_view view = ViewOf(text);
-    if (!HasDigit(view) || firstCharacters.find(view.front()) == std::wstring_view::npos) {
+    if (!HasDigit(view) || firstCharacters.find(view.front()) == std::wstring_view::npos)
+    {
         return false;
     }
     // "+." is not among them, on purpose: "+.x5" is left to the unit, "-.x5" is refused.
@@ -36,4 +38,11 @@ bool UnitText::MayBeNumber(const CString& text)
 double UnitText::Read(const CKxUnit& unit, const CString& text)
 {
     return unit.String2Double(text, nullptr, 1);
+}
+
+CString UnitText::Canonical(const CKxUnit& unit, double value)
+{
+    wchar_t buffer[CKxUnit::c_nTextSize] = {};
+    unit.Double2String(buffer, value, 1, L"%.*f", 1, 1, 50);
+    return buffer;
 }

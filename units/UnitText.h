@@ -6,7 +6,8 @@
 #include "kitrel/KxUnit.h"
 #include "oxa/Export.h"
 
-struct OXA_API UnitText {
+struct OXA_API UnitText
+{
     /// A cheap test of shape, done before the unit is asked.
     static bool MayBeNumber(const CString& text);
 
@@ -14,5 +15,5 @@ struct OXA_API UnitText {
     static double Read(const CKxUnit& unit, const CString& text);
 
     /// The text of an SI value, with the unit's precision, separator, symbol and format.
-    static CString Canonical(CKxUnit& unit, double value);
+    static CString Canonical(const CKxUnit& unit, double value);
 };

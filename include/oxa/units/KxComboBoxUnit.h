@@ -23,6 +23,11 @@ inline constexpr UINT WM_KX_UNIT_VALIDATED = 0xA5C;
 /// compare with it exactly.
 inline constexpr double KX_UNIT_NO_VALUE = std::bit_cast<double>(std::uint64_t{0xDF2192E9EE706E4A});
 
+namespace unitvalues
+{
+struct Fields;
+}
+
 /// A drop-down combo box of physical quantities.
 ///
 /// The user sees and types texts in the working unit, the host reads and writes values in SI. A typed text is committed
@@ -46,7 +51,8 @@ inline constexpr double KX_UNIT_NO_VALUE = std::bit_cast<double>(std::uint64_t{0
 ///     m_length.SubclassDlgItem(IDC_LENGTH, this);
 ///     m_length.SetDefaultValues(this, IDC_LENGTH, 0.0, metre, 0.0, 0.0);
 ///     m_length.AddValueSI(2.5);
-class OXA_API CKxComboBoxUnit : public CComboBox {
+class OXA_API CKxComboBoxUnit : public CComboBox
+{
     DECLARE_DYNAMIC(CKxComboBoxUnit)
 
 public:
@@ -129,6 +135,7 @@ protected:
     CKxToolTip m_toolTip;
 
 private:
+    unitvalues::Fields Values();
     bool TellFocus();
     bool SendToOwner(UINT message, WPARAM wParam, LPARAM lParam);
 };
