@@ -29,6 +29,8 @@ constexpr bool standsAtTheNumber(std::wstring_view symbol)
 
 } // namespace
 
+IMPLEMENT_DYNAMIC(CKxUnit, KX_UNIT_BASE)
+
 static_assert(CKxUnit::c_nTextSize == kitrel::TextOut::c_size + 1);
 
 const wchar_t* const CKxUnit::c_arrayPrecision[c_nPrecisions] = {

@@ -63,6 +63,7 @@ enum enumUNITFORMAT : int
  */
 class KITREL_API CKxUnit : public KX_UNIT_BASE
 {
+    DECLARE_DYNAMIC(CKxUnit)
 public:
     /// Room that the text of a value can need, in characters and with the closing NUL, whatever unit and arguments.
     static constexpr unsigned int c_nTextSize = 256;
