@@ -1,4 +1,6 @@
 // The cases of the unit combo box over a list in memory, and the failures that only such a list can have.
+#include <iterator>
+#include <random>
 #include "support/MemoryUnitCombo.h"
 #include "support/UnitComboCases.h"
 
@@ -132,5 +134,59 @@ TEST(UnitValueListCommit, uses_the_unit_that_the_parent_set_meanwhile)
     EXPECT_EQ(combo.ValueCount(), 1U);
     EXPECT_EQ(combo.EditText(), L"1.3 m") << "the typed text was taken before the parent heard of it";
     EXPECT_EQ(combo.GetValueSI(), 1.3);
+}
+
+// Whatever a host and a user do: the values stay in step with the items, and a commit leaves one typed item, the selected.
+TEST(UnitValueListInvariants, hold_over_random_operations)
+{
+    const wchar_t* const texts[] = {L"1.5",   L"1.500 M", L"abc", L"",     L"-,x5", L"+.x5",
+                                    L"12 cm", L"1'-6\"",  L"2",   L"3 kN", L"1e300"};
+    std::mt19937 random(20240602); // a fixed seed
+    const auto below = [&random](unsigned int bound) { return static_cast<int>(random() % bound); };
+    MemoryUnitCombo combo;
+    combo.SetUnit(Metre());
+    for (int round = 0; round < 20000; ++round)
+    {
+        const wchar_t* const text = texts[below(std::size(texts))];
+        switch (below(8))
+        {
+        case 0:
+            combo.AddValueSI(below(5) / 3.0);
+            break;
+        case 1:
+            combo.AddString(text);
+            break;
+        case 2:
+            combo.InsertString(below(9) - 2, text);
+            break;
+        case 3:
+            combo.DeleteString(static_cast<unsigned int>(below(20) - 2));
+            break;
+        case 4:
+            combo.Pick(below(9) - 1);
+            break;
+        case 5:
+            combo.list.refuseInsertions = below(10) == 0;
+            break;
+        case 6:
+            if (below(30) == 0)
+                combo.ResetContent();
+            break;
+        default:
+        {
+            combo.Type(text);
+            combo.Leave();
+            int typed = 0;
+            for (int i = 0; i < combo.Count(); ++i)
+            {
+                typed += combo.IsPermanent(i) ? 0 : 1;
+                ASSERT_TRUE(combo.IsPermanent(i) || i == combo.Selected()) << round;
+            }
+            ASSERT_LE(typed, 1) << round;
+            break;
+        }
+        }
+        ASSERT_EQ(combo.ValueCount(), static_cast<std::size_t>(combo.Count())) << round;
+    }
 }
 } // namespace
