@@ -34,8 +34,7 @@ BalloonShape BalloonShape::of(const CRect& client, bool leftOriented)
     BalloonShape shape;
     shape.text.SetRect(shifted(client.left, textLeft), shifted(client.top, textTop), shifted(client.right, -textRight),
                        shifted(client.bottom, -textBottom));
-    shape.body.SetRect(shifted(client.left, bodyMargin), client.top, client.right,
-                       shifted(client.bottom, -bodyMargin));
+    shape.body.SetRect(shifted(client.left, bodyMargin), client.top, client.right, shifted(client.bottom, -bodyMargin));
     shape.start.SetRect(shifted(client.left, bodyMargin), client.top, client.right, client.bottom);
 
     const int tip = leftOriented ? client.left : client.right;

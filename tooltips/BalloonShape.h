@@ -1,7 +1,8 @@
 // The balloon tip as numbers: its body, tail and text room, where the window goes, how its text is set.
 #pragma once
 
-#include <afxwin.h>
+#include <afx.h>
+#include <atltypes.h>
 
 #include "oxa/Export.h"
 
@@ -11,10 +12,10 @@ struct OXA_API BalloonShape
     static constexpr int cornerSize = 10; ///< width and height of the ellipse that rounds the corners of the body
     static constexpr int tailPoints = 3;
 
-    CRect text;             ///< the room for the text
-    CRect body;             ///< the rounded rectangle
+    CRect text;              ///< the room for the text
+    CRect body;              ///< the rounded rectangle
     CPoint tail[tailPoints]; ///< the triangle of the tail; the first point is its tip
-    CRect start;            ///< the rectangle that the united region is made with before body and tail replace it
+    CRect start;             ///< the rectangle that the united region is made with before body and tail replace it
 
     /// The shape for a client area; the tail's tip is its left bottom corner, or the right bottom one.
     /// Only the tail is mirrored: the body and the text keep their place in both orientations.

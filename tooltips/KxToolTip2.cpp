@@ -200,7 +200,7 @@ int KxToolTip2::OnCreate(LPCREATESTRUCT create)
     {
         return -1;
     }
-    const BalloonShape shape = BalloonShape::of(clientRect(*this), leftOriented);
+    BalloonShape shape = BalloonShape::of(clientRect(*this), leftOriented);
     textRect = shape.text;
 
     // The objects of an earlier window, when the balloon is made again.

@@ -1,7 +1,8 @@
 // The one-line tip as plain values: the two parts of its text, its rectangle, where each part is written.
 #pragma once
 
-#include <afxwin.h>
+#include <afx.h>
+#include <atltypes.h>
 
 #include "oxa/Export.h"
 
@@ -18,8 +19,8 @@ struct OXA_API LineTipText
 /// Where a one-line tip goes and where its texts are written.
 struct OXA_API LineTipLayout
 {
-    static constexpr int textLeft = 3; ///< x of the left part, pixels in the tip's window
-    static constexpr int textTop = 1;  ///< y of both parts
+    static constexpr int textLeft = 3;    ///< x of the left part, pixels in the tip's window
+    static constexpr int textTop = 1;     ///< y of both parts
     static constexpr long long shift = 1; ///< the window stands this much right of and below `bounds`
 
     CRect bounds; ///< the tip's rectangle, in client coordinates of its parent
