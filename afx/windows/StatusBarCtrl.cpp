@@ -3,7 +3,6 @@
 
 #include "CommonParts.h"
 
-using kx::answer;
 using kx::ask;
 using kx::createCommon;
 using kx::drawReflected;

@@ -3,6 +3,7 @@
 #include "kx/HeaderCtrl.h"
 #include "kx/Edits.h"
 #include "kx/ToolTipCtrl.h"
+#include <afxcoll.h>
 
 /// A list of items with columns, icons or both. Results of -1 and FALSE say that there is no such item.
 /// Image lists that have an owner among the program's objects are taken out before the control is destroyed, so that
