@@ -1,7 +1,6 @@
 // What the library knows of itself as a module. Written while it is loaded, read-only after that.
 #pragma once
 #include <afxwin.h>
-#include <afxdllx.h>
 
 /// The framework's record of this module, used at load and unload only.
 extern AFX_EXTENSION_MODULE moduleExtensionState;

@@ -101,15 +101,8 @@
 #define IDC_DESTINATION_PATH_LABEL 1343
 #define IDC_DESTINATION_PATH 1344
 
-// Help texts (type HELPTEXTS), also the help ids of the controls
-#define HELP_UNIT_DIALOG 153077
-#define HELP_UNIT_STYLE 22101
-#define HELP_UNIT_NEW 22102
-#define HELP_UNIT_RENAME 22103
-#define HELP_UNIT_DELETE 22104
-#define HELP_UNIT_GRID 22105
-#define HELP_UNIT_INPUT 22106
-#define HELP_STYLE_NAME 22107
-#define HELP_VISUALISATION_LIST 22108
-#define HELP_BROWSE_TEXT 22109
-#define HELP_BROWSE_BUTTON 22110
+// Help ids of the dialogs: 0x20000 plus the id of the template, as the framework counts
+#define HELP_EDIT_WITH_BROWSE 139345
+#define HELP_UNIT 153077
+#define HELP_STYLE 153078
+#define HELP_VISUALISATION 153079
