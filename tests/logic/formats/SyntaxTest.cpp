@@ -118,7 +118,8 @@ TEST(Syntax, a_group_without_its_closing_bracket_is_bad)
 
 TEST(Syntax, every_cut_of_a_group_is_bad)
 {
-    for (const wchar_t* format : {L"[", L"[(", L"[(N", L"[(N)", L"[(N)x", L"[(N)12", L"[(a", L"[(a-", L"[(a-f", L"[(a-f)"})
+    for (const wchar_t* format :
+         {L"[", L"[(", L"[(N", L"[(N)", L"[(N)x", L"[(N)12", L"[(a", L"[(a-", L"[(a-f", L"[(a-f)"})
         EXPECT_EQ(checked(format), -1) << testing::PrintToString(format);
 }
 

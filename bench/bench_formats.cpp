@@ -1,0 +1,144 @@
+// How long a judgement takes, against an anchored regular expression (PCRE2, JIT) that accepts the same texts.
+#define PCRE2_CODE_UNIT_WIDTH 32
+#include <pcre2.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <vector>
+#include "oxa/formats/KxSemantic.h"
+
+namespace
+{
+using Clock = std::chrono::steady_clock;
+
+struct Case
+{
+    const wchar_t* format;
+    const wchar_t* expression;
+    std::vector<std::wstring> texts;
+};
+
+// The wide class inside brackets of an expression.
+#define WIDE                                                                                                           \
+    L"[A-Za-z0-9\u00e0\u00e2\u00e4\u00e9\u00e8\u00ea\u00eb\u00ef\u00ee\u00f6\u00f4\u00f9\u00fb\u00fc\u00e7./\\-+*_()'" \
+    L"\\\\:;!?\u00b2,%&#{\\[|`@\\]=}$\u00a3\u00b5\u00b0 \u00f8]"
+#define LETTER L"[A-Za-wyz\u00e0\u00e9\u00e8\u00e7\u00f9\u00ea\u00f4\u00ef\u00ee]"
+
+const std::vector<Case>& cases()
+{
+    static const std::vector<Case> all{
+        {L"[(N)3]-[(A)x]",
+         L"\\A[0-9]{0,3}-" WIDE L"+\\z",
+         {L"123-b", L"123-Poutre HEB 200", L"1-2", L"12", L"1234-b", L"123-", L"7-section A/B (1)", L"12a-b"}},
+        {L"[(N)2].[(N)2].[(N)4]",
+         L"\\A[0-9]{0,2}\\.[0-9]{0,2}\\.[0-9]{1,4}\\z",
+         {L"31.12.1999", L"1.2.3", L"31.12", L"31.12.19999", L"31/12/1999", L"01.01.2001", L"29.02.2000", L"1.1."}},
+        {L"[(C)2][[(N)x]",
+         L"\\A" LETTER L"{0,2}\\[[0-9]+\\z",
+         {L"AB[123456789", L"ab[1", L"a[5", L"ax[1", L"AB[", L"AB", L"AB[12345678901234567890", L"\u00e9\u00e8[77"}},
+        {L"[(N)x]",
+         L"\\A[0-9]*\\z",
+         {L"1", L"12345", L"1234567890", L"12345678901234567890", L"12a45", L"", L"a",
+          L"999999999999999999999999999x"}},
+        {L"[(A)x]",
+         L"\\A" WIDE L"*\\z",
+         {L"Poteau", L"Poutre HEB 200 de rive, \u00e9tage 2", L"a", L"x", L"~", L"niveau +3.20 (bas)", L"IPE",
+          L"S235"}},
+    };
+    return all;
+}
+
+/// One compiled expression with its match data, used again for every text.
+class Expression
+{
+public:
+    explicit Expression(const std::wstring& pattern)
+    {
+        int error = 0;
+        PCRE2_SIZE offset = 0;
+        m_code =
+            pcre2_compile(reinterpret_cast<PCRE2_SPTR>(pattern.c_str()), pattern.size(), 0, &error, &offset, nullptr);
+        if (m_code == nullptr || pcre2_jit_compile(m_code, PCRE2_JIT_COMPLETE) != 0)
+        {
+            std::fprintf(stderr, "the expression does not compile (error %d at %zu)\n", error, offset);
+            std::exit(1);
+        }
+        m_match = pcre2_match_data_create_from_pattern(m_code, nullptr);
+    }
+    ~Expression()
+    {
+        pcre2_match_data_free(m_match);
+        pcre2_code_free(m_code);
+    }
+    Expression(const Expression&) = delete;
+    Expression& operator=(const Expression&) = delete;
+
+    int accepts(const CString& text) const
+    {
+        return pcre2_match(m_code, reinterpret_cast<PCRE2_SPTR>(text.GetString()),
+                           static_cast<PCRE2_SIZE>(text.GetLength()), 0, 0, m_match, nullptr) > 0
+                   ? 1
+                   : 0;
+    }
+
+private:
+    pcre2_code* m_code;
+    pcre2_match_data* m_match = nullptr;
+};
+
+/// Nanoseconds for one text, the best of several rounds.
+template <class Judge> double time(const std::vector<CString>& texts, Judge judge)
+{
+    constexpr int rounds = 15;
+    constexpr int repeats = 4000;
+    double best = 1e300;
+    int sum = 0;
+    for (int round = 0; round < rounds; ++round)
+    {
+        const auto start = Clock::now();
+        for (int i = 0; i < repeats; ++i)
+            for (const CString& text : texts)
+                sum += judge(text);
+        const std::chrono::duration<double, std::nano> spent = Clock::now() - start;
+        best = std::min(best, spent.count() / repeats / static_cast<double>(texts.size()));
+    }
+    volatile int kept = sum;
+    static_cast<void>(kept);
+    return best;
+}
+} // namespace
+
+int main()
+{
+    double ours = 0;
+    double theirs = 0;
+    std::printf("%-24s %12s %12s %8s\n", "format", "ValidAdd ns", "PCRE2 ns", "ratio");
+    for (const Case& one : cases())
+    {
+        CKxSemantic semantic;
+        CString format(one.format);
+        const Expression expression(one.expression);
+        if (semantic.CheckSyntax(format) != 1)
+            return 1;
+        std::vector<CString> texts;
+        for (const std::wstring& text : one.texts)
+        {
+            texts.emplace_back(text.c_str());
+            if (semantic.ValidAdd(texts.back()) != expression.accepts(texts.back()))
+            {
+                std::fprintf(stderr, "%ls: the two disagree on \"%ls\"\n", one.format, text.c_str());
+                return 1;
+            }
+        }
+        const double a = time(texts, [&](const CString& text) { return semantic.ValidAdd(text); });
+        const double b = time(texts, [&](const CString& text) { return expression.accepts(text); });
+        std::printf("%-24ls %12.1f %12.1f %8.2f\n", one.format, a, b, a / b);
+        ours += a;
+        theirs += b;
+    }
+    std::printf("%-24s %12.1f %12.1f %8.2f   (goal: 0.50)\n", "all", ours, theirs, ours / theirs);
+    return 0;
+}
