@@ -18,6 +18,21 @@ void needRoom(const CKxGroup& group, long long more)
         AfxThrowMemoryException();
 }
 
+// Writes count characters, or placeholders, over those from k on, as far as there are that many.
+void overwrite(CString& text, long long k, long long count, const wchar_t* characters)
+{
+    const int length = text.GetLength();
+    count = std::min(count, length - k);
+    if (count <= 0)
+        return;
+    wchar_t* buffer = text.GetBuffer(length) + k;
+    if (characters)
+        std::copy_n(characters, count, buffer);
+    else
+        std::fill_n(buffer, count, placeholder);
+    text.ReleaseBuffer(length);
+}
+
 // Puts ch before the character at k, or at the end when the text is shorter.
 void insertCharacter(CString& text, long long k, wchar_t ch)
 {
@@ -106,14 +121,7 @@ void CKxFormat::InsertStretch(POSITION place, Sweep& sweep, long long stop, cons
     m_modified = 1;
     if (element.group->m_maxCount != -1)
     {
-        const long long count = std::min(stop - first, text.GetLength() - k);
-        if (count <= 0)
-            return;
-        const int length = text.GetLength();
-        wchar_t* buffer = text.GetBuffer(length);
-        for (long long i = 0; i < count; ++i)
-            buffer[k + i] = characters ? characters[first + i] : placeholder;
-        text.ReleaseBuffer(length);
+        overwrite(text, k, stop - first, characters ? characters + first : nullptr);
         return;
     }
     if (!endsInPlaceholder(text) || k >= text.GetLength())
@@ -151,8 +159,83 @@ void CKxFormat::SetString(CString& text)
     InsertRun(0, characters.GetLength() - 1LL, characters.GetString());
 }
 
+// Whether the list is as a format expands to it: groups and separators in turn, from 0 on, without gap or empty range.
+bool CKxFormat::IsPlain() const
+{
+    long long next = 0;
+    int groups = -1; // whether the element before was a group
+    for (POSITION place = GetHeadPosition(); place; GetNext(place))
+    {
+        const FormatElement element = ElementAt(place);
+        const int group = element.group ? 1 : 0;
+        if (!element || element.Start() != next || element.End() < element.Start() || group == groups)
+            return false;
+        next = element.End() + 1LL;
+        groups = group;
+    }
+    return next <= std::numeric_limits<int>::max() - 2LL * CKxGroup::MaxTextLength;
+}
+
+// Puts placeholders at the positions first to last of a group, as far as they are its own. Answers how many positions
+// the group has grown by.
+int CKxFormat::ResetGroup(CKxGroup& group, int first, int last)
+{
+    if (last < first)
+        return 0;
+    m_modified = 1;
+    CString& text = group.m_text;
+    if (group.m_maxCount != -1)
+    {
+        overwrite(text, first - group.m_start, std::min(last, group.m_end) - first + 1LL, nullptr);
+        return 0;
+    }
+    const int count = last - first + 1;
+    const int more = endsInPlaceholder(text) ? 0 : 1;
+    needRoom(group, static_cast<long long>(count) + more);
+    text = CString(placeholder, count) + text + CString(placeholder, more);
+    return count + more;
+}
+
+// What the general steps come to for a plain list, in one pass: each group is reset from its start on.
+void CKxFormat::UpdatePlain(int length)
+{
+    long long slide = 0;
+    const POSITION head = GetHeadPosition();
+    const POSITION tail = GetTailPosition();
+    for (POSITION place = head; place; GetNext(place))
+    {
+        const FormatElement element = ElementAt(place);
+        element.Move(slide, slide);
+        if (!element.group)
+            continue;
+        try
+        {
+            const int last = place == head ? 0 : place == tail ? length - 1 : element.End();
+            const int grown = ResetGroup(*element.group, element.Start(), last);
+            element.Move(0, grown);
+            slide += grown;
+        }
+        catch (...)
+        {
+            SlideBehind(place, slide);
+            throw;
+        }
+    }
+}
+
+void CKxFormat::SlideBehind(POSITION place, long long by)
+{
+    for (GetNext(place); place; GetNext(place))
+        ElementAt(place).Move(by, by);
+}
+
 void CKxFormat::UpdateFormat(CString text)
 {
+    if (IsPlain())
+    {
+        UpdatePlain(text.GetLength());
+        return;
+    }
     int first = 0;
     int last = 0; // a group at the head gets one placeholder only, at position 0: kept on purpose
     for (POSITION place = GetHeadPosition(); place; GetNext(place))

@@ -130,6 +130,37 @@ void setOneByOne(CKxFormat& format, const CString& text)
             format.Insert(i, text[i]);
 }
 
+/// The documented steps of UpdateFormat, one Insert each.
+void updateOneByOne(CKxFormat& format, int length)
+{
+    int first = 0;
+    int last = 0;
+    for (POSITION place = format.GetHeadPosition(); place;)
+    {
+        const CObject* element = format.GetNext(place);
+        if (dynamic_cast<const CKxGroup*>(element))
+        {
+            last = last == -2 ? length - 1 : last;
+            for (int pos = first; pos <= last; ++pos)
+                format.Insert(pos, L'#');
+        }
+        else
+        {
+            first = static_cast<const CKxSeparator*>(element)->GetEnd() + 1;
+            last = format.GetFirstSeparator(first) - 1;
+        }
+    }
+}
+
+bool small(const CKxFormat& format)
+{
+    for (POSITION place = format.GetHeadPosition(); place;)
+        if (const auto* group = dynamic_cast<const CKxGroup*>(format.GetNext(place)))
+            if (group->GetEnd() > 2000 || group->GetStart() < -2000)
+                return false;
+    return true;
+}
+
 void edit(const CKxSemantic& semantic, const CString& text, const CString& original)
 {
     CKxFormat format;
@@ -148,6 +179,13 @@ void edit(const CKxSemantic& semantic, const CString& text, const CString& origi
     setOneByOne(twin, text);
     require(sameText(format.CreateEditFormat(), twin.CreateEditFormat()));
     require(!plain || covers(format));
+    if (small(format))
+    {
+        format.UpdateFormat(text);
+        updateOneByOne(twin, text.GetLength());
+        require(sameText(format.CreateEditFormat(), twin.CreateEditFormat()));
+        require(!plain || covers(format) == covers(twin));
+    }
     format.MakeUpper();
     static_cast<void>(format.ValidAdd());
     static_cast<void>(format.HaveAnyValue());

@@ -89,6 +89,10 @@ private:
     void InsertAt(POSITION place, int pos, wchar_t ch);
     void InsertRun(long long first, long long last, const wchar_t* characters);
     void InsertStretch(POSITION place, Sweep& sweep, long long stop, const wchar_t* characters);
+    bool IsPlain() const;
+    void UpdatePlain(int length);
+    int ResetGroup(CKxGroup& group, int first, int last);
+    void SlideBehind(POSITION place, long long by);
     POSITION NextElement(Sweep& sweep, long long& stop) const;
 
     int m_modified = 0;

@@ -27,6 +27,47 @@ void setOneByOne(CKxFormat& format, const std::wstring& text)
         if (format.IsSeparator(static_cast<int>(i)) == 0)
             format.Insert(static_cast<int>(i), text[i]);
 }
+// The documented way: two running values, and one Insert of a placeholder per position.
+void updateOneByOne(Elements& format, int length)
+{
+    int first = 0;
+    int last = 0;
+    for (POSITION place = format.GetHeadPosition(); place;)
+    {
+        const CObject* element = format.GetNext(place);
+        if (dynamic_cast<const CKxGroup*>(element))
+        {
+            if (last == -2)
+                last = length - 1;
+            for (int pos = first; pos <= last; ++pos)
+                format.Insert(pos, L'#');
+        }
+        else
+        {
+            first = static_cast<const CKxSeparator*>(element)->GetEnd() + 1;
+            last = format.GetFirstSeparator(first) - 1;
+        }
+    }
+}
+
+const std::vector<void (*)(Elements&)>& oddAndPlainLists()
+{
+    static const std::vector<void (*)(Elements&)> lists{
+        [](Elements& f) { f.fixed(L"##", 0, 1).literal(L"-", 2, 2).open(L"#", 3, 3).literal(L"+", 4, 4); },
+        [](Elements& f) { f.open(L"", 0, 0).literal(L"--", 1, 2).fixed(L"###", 3, 5); },
+        [](Elements& f)
+        { f.open(L"ab", 0, 1).literal(L"-", 2, 2).open(L"cd", 3, 4).literal(L"+", 5, 5).open(L"e", 6, 6); },
+        [](Elements& f) { f.literal(L"-", 0, 0).open(L"ab#", 1, 3).literal(L"+", 4, 4).fixed(L"1", 5, 9); },
+        [](Elements& f) { f.open(L"#", 0, 9).literal(L"-", 10, 10); },
+        [](Elements& f)
+        { f.literal(L"-", 0, 0).open(L"a", 1, 5).fixed(L"123", 6, 8).open(L"#", 9, 9).literal(L"-", 10, 10); },
+        [](Elements& f) { f.literal(L"abc", 4, 6).open(L"#", 0, 8).open(L"#", 2, 3).literal(L"-", 1, 5); },
+        [](Elements& f) { f.fixed(L"12", 3, 20).open(L"ab", 0, 30).literal(L"-", 2, 40).fixed(L"###", 1, 3); },
+        [](Elements& f) { f.open(L"x", 5, 5).open(L"y#", 2, 3).literal(L"-", 9, 12).open(L"", 7, 30); },
+        [](Elements& f) { f.literal(L"abcdef", 2, 3).open(L"q#", 0, 1).fixed(L"12345678", 0, 7); },
+    };
+    return lists;
+}
 } // namespace
 
 TEST(FormatSetString, a_text_goes_over_fixed_groups_and_leaves_separators_uncompared)
@@ -82,16 +123,7 @@ TEST(FormatSetString, an_open_group_in_whose_text_the_run_starts_full_goes_on_wi
 
 TEST(FormatSetString, gives_what_single_insertions_give_for_well_formed_and_odd_lists)
 {
-    const auto lists = std::vector<void (*)(Elements&)>{
-        [](Elements& f) { f.fixed(L"##", 0, 1).literal(L"-", 2, 2).open(L"#", 3, 3).literal(L"+", 4, 4); },
-        [](Elements& f) { f.open(L"", 0, 0).literal(L"--", 1, 2).fixed(L"###", 3, 5); },
-        [](Elements& f) { f.open(L"#", 0, 9).literal(L"-", 10, 10); },
-        [](Elements& f) { f.literal(L"abc", 4, 6).open(L"#", 0, 8).open(L"#", 2, 3).literal(L"-", 1, 5); },
-        [](Elements& f) { f.fixed(L"12", 3, 20).open(L"ab", 0, 30).literal(L"-", 2, 40).fixed(L"###", 1, 3); },
-        [](Elements& f) { f.open(L"x", 5, 5).open(L"y#", 2, 3).literal(L"-", 9, 12).open(L"", 7, 30); },
-        [](Elements& f) { f.literal(L"abcdef", 2, 3).open(L"q#", 0, 1).fixed(L"12345678", 0, 7); },
-    };
-    for (const auto build : lists)
+    for (const auto build : oddAndPlainLists())
         for (const std::wstring text : {L"", L"a", L"abcde", L"#", L"##a##", L"0123456789abcdefghij", L"a#b#c#d#e#f#"})
         {
             Elements bulk;
@@ -189,6 +221,35 @@ TEST(FormatUpdate, marks_the_list_as_modified)
     format.SetModified(0);
     format.UpdateFormat(L"");
     EXPECT_EQ(format.GetModified(), 1);
+}
+
+TEST(FormatUpdate, gives_what_single_insertions_give_for_plain_and_odd_lists)
+{
+    for (const auto build : oddAndPlainLists())
+        for (int length = 0; length < 20; ++length)
+        {
+            Elements bulk;
+            Elements single;
+            build(bulk);
+            build(single);
+            for (int round = 0; round < 3; ++round)
+            {
+                bulk.UpdateFormat(CString(L'z', length));
+                updateOneByOne(single, length);
+                EXPECT_EQ(elements(bulk), elements(single)) << length;
+            }
+        }
+}
+
+TEST(FormatUpdate, a_memory_exception_leaves_the_elements_behind_one_another)
+{
+    Elements format;
+    format.open(L"#", 0, 0).literal(L"-", 1, 1).open(L"", 2, 2).literal(L"+", 3, 3);
+    auto* group = static_cast<CKxGroup*>(format.GetElement(2));
+    group->SetText(CString(L'a', CKxGroup::MaxTextLength));
+    EXPECT_TRUE(raises<CMemoryException>([&] { format.UpdateFormat(L""); }));
+    EXPECT_EQ(group->GetStart(), 3);
+    EXPECT_EQ(static_cast<CKxSeparator*>(format.GetTail())->GetStart(), 4);
 }
 
 TEST(FormatUpdate, repeated_updates_end_at_the_longest_text_with_a_memory_exception)
