@@ -109,7 +109,7 @@ std::string fixedText(const Decimal& number, int decimals, bool alternate)
     }
     if (text.empty())
     {
-        text = "0";
+        text.push_back('0');
     }
     // A number below 0.1 has zeros before its first digit: their indices are negative.
     appendFraction(text, number, whole, decimals, alternate);
@@ -161,12 +161,14 @@ std::string generalText(Decimal number, int precision, bool alternate, bool uppe
 // Infinity and not-a-number count as 1 with a strange fraction, padded with zeros to the precision.
 std::string specialText(double value, int precision)
 {
-    std::string text = std::isinf(value) ? "#INF" : (std::signbit(value) ? "#IND" : "#QNAN");
-    if (precision > static_cast<int>(text.size()))
+    const char* const fraction = std::isinf(value) ? "#INF" : (std::signbit(value) ? "#IND" : "#QNAN");
+    std::string text("1.");
+    text.append(fraction);
+    while (static_cast<int>(text.size()) < precision + 2)
     {
-        text.append(static_cast<std::size_t>(precision) - text.size(), '0');
+        text.push_back('0');
     }
-    return "1." + text;
+    return text;
 }
 
 std::string signText(bool negative, const FormatSpec& spec)

@@ -107,9 +107,12 @@ struct AFX_EXCEPTION_LINK
     CException* m_pException = nullptr;
 };
 
+// A TRY inside a TRY block hides the outer link on purpose.
 #define TRY                                                                                                            \
     {                                                                                                                  \
-        AFX_EXCEPTION_LINK _afxExceptionLink;                                                                          \
+        _Pragma("GCC diagnostic push") _Pragma("GCC diagnostic ignored \"-Wshadow\"")                                  \
+            AFX_EXCEPTION_LINK _afxExceptionLink;                                                                      \
+        _Pragma("GCC diagnostic pop")                                                                                  \
         try                                                                                                            \
         {
 
