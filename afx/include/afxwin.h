@@ -4,6 +4,7 @@
 
 #include <afxres.h>
 #include "kx/CmdTarget.h"
+#include "kx/CmdUI.h"
 #include "kx/MessageMap.h"
 #include "kx/WndMaps.h"
 #include "kx/Wnd.h"

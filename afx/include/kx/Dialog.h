@@ -50,7 +50,6 @@ protected:
 
     afx_msg LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT HandleSetFont(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnCommandHelp(WPARAM wParam, LPARAM lParam);
 
     UINT m_nIDHelp = 0;
     LPCTSTR m_lpszTemplateName = nullptr;
@@ -61,7 +60,6 @@ protected:
     HWND m_hWndTop = nullptr; ///< disabled while the dialog is modal
 
 private:
-    void RunModal(LPCDLGTEMPLATE dialogTemplate, HINSTANCE instance);
     friend INT_PTR CALLBACK AfxDlgProc(HWND, UINT, WPARAM, LPARAM);
 
     DECLARE_MESSAGE_MAP()

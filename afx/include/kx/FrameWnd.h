@@ -41,11 +41,7 @@ public:
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     void PostNcDestroy() override;
-    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
-    afx_msg void OnDestroy();
     afx_msg void OnInitMenuPopup(CMenu* menu, UINT index, BOOL sysMenu);
-    afx_msg void OnSetFocus(CWnd* oldWnd);
-    afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM wParam, LPARAM lParam);
 
     CString m_strTitle;
     UINT m_nIDHelp = 0;

@@ -48,6 +48,7 @@ protected:
     BOOL DispatchThreadMessage(MSG* message);
 
 private:
+    friend KXAFX_API MSG* AfxGetCurrentMessage();
     static unsigned __stdcall ThreadEntry(void* self);
     int RunThread();
 

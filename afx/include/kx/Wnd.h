@@ -253,6 +253,8 @@ public:
     static HWND GetSafeOwner_(HWND parent, HWND* top);
     static CWnd* GetSafeOwner(CWnd* parent = nullptr, HWND* top = nullptr);
     virtual BOOL IsFrameWnd() const { return FALSE; }
+    /// Whether a dialog is to be centred when it appears.
+    virtual BOOL CheckAutoCenter() { return TRUE; }
 
     // --- messages
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
