@@ -3,6 +3,7 @@
 #include "resource.h"
 #include "support/RealInput.h"
 #include "support/Screenshot.h"
+#include <algorithm>
 
 namespace
 {
@@ -48,7 +49,7 @@ BOOL CMainDialog::OnInitDialog()
     }
     CRect work;
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
-    const int width = min(work.Width(), 860), height = min(work.Height(), 700);
+    const int width = std::min(work.Width(), 860), height = std::min(work.Height(), 700);
     SetWindowPos(nullptr, work.left + (work.Width() - width) / 2, work.top + (work.Height() - height) / 2, width,
                  height, SWP_NOZORDER | SWP_NOACTIVATE);
     arrange();
@@ -68,12 +69,12 @@ void CMainDialog::arrange()
     CRect r;
     GetClientRect(&r);
     r.DeflateRect(gap, gap);
-    const int split = max(r.top, r.bottom - logHeight);
+    const int split = std::max<int>(r.top, r.bottom - logHeight);
     m_list.MoveWindow(r.left, r.top, listWidth, split - gap - r.top);
     m_log.MoveWindow(r.left, split, r.Width(), r.bottom - split);
     for (const auto& page : m_pages)
         if (page->m_hWnd)
-            page->MoveWindow(r.left + listWidth + gap, r.top, max(0, r.Width() - listWidth - gap), split - gap - r.top);
+            page->MoveWindow(r.left + listWidth + gap, r.top, std::max(0, r.Width() - listWidth - gap), split - gap - r.top);
 }
 
 void CMainDialog::showPage(int index)
