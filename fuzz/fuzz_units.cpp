@@ -86,8 +86,8 @@ void cutMarks(unsigned int family, const std::wstring& text)
     const int length = static_cast<int>(text.size());
     CString cut(text.c_str(), length);
     CKxUnit::EliminateUnitsSymbol(family, cut);
-    require(cut.GetLength() <= length && text.compare(0, static_cast<size_t>(cut.GetLength()), cut) == 0,
-            "cutting a symbol changed more than the end");
+    const std::wstring kept(cut.GetString(), static_cast<size_t>(cut.GetLength()));
+    require(text.compare(0, kept.size(), kept) == 0, "cutting a symbol changed more than the end");
     CKxUnit::EliminatePrecision(cut);
     require(cut.GetLength() <= length, "cutting a tolerance made the text longer");
 }

@@ -21,7 +21,7 @@ constexpr double c_powers[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9,
 std::uint64_t roundedHalfUp(double scaled)
 {
     constexpr double nearly = 1.0 + 1e-15;
-    return static_cast<std::uint64_t>(scaled * nearly + 0.5);
+    return static_cast<std::uint64_t>(std::llround(scaled * nearly));
 }
 
 // A magnitude as digits * 10^-scale.
