@@ -31,7 +31,7 @@ constexpr bool standsAtTheNumber(std::wstring_view symbol)
 
 IMPLEMENT_DYNAMIC(CKxUnit, KX_UNIT_BASE)
 
-static_assert(CKxUnit::c_nTextSize == kitrel::TextOut::c_size + 1);
+static_assert(CKxUnit::c_nTextSize == kitrel::TextWriter::c_size + 1);
 
 const wchar_t* const CKxUnit::c_arrayPrecision[c_nPrecisions] = {
     L"0", L"0.0", L"0.00", L"0.000", L"0.0000", L"0.00000", L"0.000000", L"0.0000000", L"0.00000000"};
@@ -115,7 +115,7 @@ CString CKxUnit::Double2String(wchar_t* buffer, double value, int showSymbol, co
     const kitrel::PrintingRules printing{m_precision, m_separator, fillZeros != 0, longestFixed};
     const double si = kitrel::held(valueIsSI != 0 ? value : scale.toSI(kitrel::held(value)));
 
-    kitrel::TextOut out;
+    kitrel::TextWriter out;
     if (m_format != UNITFORMAT_DECIMAL && GetType() == UNITTYPE_IMPERIAL)
     {
         const double inches = family.units[static_cast<size_t>(family.inch)].scale.fromSI(si);

@@ -64,7 +64,7 @@ struct DigitText
     {
         length = static_cast<size_t>(std::to_chars(text, text + sizeof text, number).ptr - text);
     }
-    void addTo(TextOut& out, size_t from, size_t to) const
+    void addTo(TextWriter& out, size_t from, size_t to) const
     {
         for (size_t i = from; i < to; ++i)
             out.add(static_cast<wchar_t>(text[i]));
@@ -80,14 +80,14 @@ struct DigitText
     size_t length = 0;
 };
 
-void printInteger(TextOut& out, std::uint64_t number)
+void printInteger(TextWriter& out, std::uint64_t number)
 {
     const DigitText digits(number);
     digits.addTo(out, 0, digits.length);
 }
 
 // Digits behind the decimal sign, and the sign, where there are any.
-void printFraction(TextOut& out, std::uint64_t fraction, size_t width, size_t decimals, const PrintingRules& rules)
+void printFraction(TextWriter& out, std::uint64_t fraction, size_t width, size_t decimals, const PrintingRules& rules)
 {
     const DigitText digits(fraction);
     const size_t end = rules.fillZeros ? digits.length : digits.withoutClosingZeros();
@@ -105,7 +105,7 @@ void printFraction(TextOut& out, std::uint64_t fraction, size_t width, size_t de
         out.addZeros(decimals - width);
 }
 
-void printFixed(TextOut& out, const Decimal& decimal, unsigned int decimals, const PrintingRules& rules)
+void printFixed(TextWriter& out, const Decimal& decimal, unsigned int decimals, const PrintingRules& rules)
 {
     if (decimal.scale <= 0)
     {
@@ -119,7 +119,7 @@ void printFixed(TextOut& out, const Decimal& decimal, unsigned int decimals, con
     printFraction(out, decimal.digits % divisor, static_cast<size_t>(decimal.scale), decimals, rules);
 }
 
-void printExponent(TextOut& out, const Decimal& decimal, const PrintingRules& rules)
+void printExponent(TextWriter& out, const Decimal& decimal, const PrintingRules& rules)
 {
     const DigitText digits(decimal.digits);
     const size_t end = digits.withoutClosingZeros();
@@ -147,13 +147,13 @@ size_t fixedLength(const Decimal& decimal, unsigned int decimals, bool negative)
 }
 
 // Inches with an exponent, for lengths beyond all feet.
-void printFarInches(TextOut& out, double magnitude, const PrintingRules& rules)
+void printFarInches(TextWriter& out, double magnitude, const PrintingRules& rules)
 {
     printExponent(out, significantDigits(std::max(magnitude, c_longestFeetAndInches)), rules);
     out.add(L'"');
 }
 
-void printFeet(TextOut& out, bool negative, std::uint64_t feet)
+void printFeet(TextWriter& out, bool negative, std::uint64_t feet)
 {
     if (negative)
         out.add(L'-');
@@ -163,7 +163,7 @@ void printFeet(TextOut& out, bool negative, std::uint64_t feet)
 
 } // namespace
 
-void printDecimal(TextOut& out, double value, const PrintingRules& rules)
+void printDecimal(TextWriter& out, double value, const PrintingRules& rules)
 {
     const unsigned int decimals = std::min(rules.precision, c_mostDecimals);
     const Decimal decimal = roundedDecimal(std::fabs(value), decimals);
@@ -182,7 +182,7 @@ void printDecimal(TextOut& out, double value, const PrintingRules& rules)
     }
 }
 
-void printArchitectural(TextOut& out, double inches, const PrintingRules& rules)
+void printArchitectural(TextWriter& out, double inches, const PrintingRules& rules)
 {
     const unsigned int power = std::min(rules.precision, c_finestFraction);
     const std::uint64_t parts = std::uint64_t{1} << power;
@@ -214,7 +214,7 @@ void printArchitectural(TextOut& out, double inches, const PrintingRules& rules)
     out.add(L'"');
 }
 
-void printEngineering(TextOut& out, double inches, const PrintingRules& rules)
+void printEngineering(TextWriter& out, double inches, const PrintingRules& rules)
 {
     const unsigned int decimals = std::min(rules.precision, c_mostDecimals);
     const double magnitude = std::fabs(inches);

@@ -22,7 +22,7 @@ struct PrintingRules
 };
 
 /// A text that grows up to a fixed size; what goes beyond it is left out.
-class TextOut
+class TextWriter
 {
 public:
     static constexpr size_t c_size = 255;
@@ -50,12 +50,12 @@ private:
 };
 
 /// The number alone, without a symbol. `value` is finite.
-void printDecimal(TextOut& out, double value, const PrintingRules& rules);
+void printDecimal(TextWriter& out, double value, const PrintingRules& rules);
 
 /// `1'-6 1/2"`: feet, inches and a reduced fraction; the precision is a power of two.
-void printArchitectural(TextOut& out, double inches, const PrintingRules& rules);
+void printArchitectural(TextWriter& out, double inches, const PrintingRules& rules);
 
 /// `1'-6.50"`: feet and decimal inches.
-void printEngineering(TextOut& out, double inches, const PrintingRules& rules);
+void printEngineering(TextWriter& out, double inches, const PrintingRules& rules);
 
 } // namespace kitrel
