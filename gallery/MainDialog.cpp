@@ -74,7 +74,8 @@ void CMainDialog::arrange()
     m_log.MoveWindow(r.left, split, r.Width(), r.bottom - split);
     for (const auto& page : m_pages)
         if (page->m_hWnd)
-            page->MoveWindow(r.left + listWidth + gap, r.top, std::max(0, r.Width() - listWidth - gap), split - gap - r.top);
+            page->MoveWindow(r.left + listWidth + gap, r.top, std::max(0, r.Width() - listWidth - gap),
+                             split - gap - r.top);
 }
 
 void CMainDialog::showPage(int index)

@@ -38,6 +38,13 @@ constexpr std::array listCodes = {
     Name{LBN_KILLFOCUS, L"LBN_KILLFOCUS"},
 };
 
+constexpr std::array notifyCodes = {
+    Name{static_cast<UINT>(NM_CLICK), L"NM_CLICK"},          Name{static_cast<UINT>(NM_DBLCLK), L"NM_DBLCLK"},
+    Name{static_cast<UINT>(NM_SETFOCUS), L"NM_SETFOCUS"},    Name{static_cast<UINT>(NM_KILLFOCUS), L"NM_KILLFOCUS"},
+    Name{static_cast<UINT>(TTN_SHOW), L"TTN_SHOW"},          Name{static_cast<UINT>(TTN_POP), L"TTN_POP"},
+    Name{static_cast<UINT>(TTN_NEEDTEXTW), L"TTN_NEEDTEXT"},
+};
+
 template <class Table> CString find(const Table& table, UINT number, const wchar_t* kind)
 {
     for (const Name& name : table)
@@ -68,7 +75,9 @@ bool isControlMessage(UINT message, LPARAM lParam)
 {
     if (message == WM_COMMAND)
         return lParam != 0;
-    return message == WM_NOTIFY || message == WM_HSCROLL || message == WM_VSCROLL ||
+    if (message == WM_NOTIFY) // painting by themes is no news
+        return reinterpret_cast<const NMHDR*>(lParam)->code != static_cast<UINT>(NM_CUSTOMDRAW);
+    return message == WM_HSCROLL || message == WM_VSCROLL ||
            (message >= WM_USER && message < 0xC000 && message != WM_USER &&
             message != WM_USER + 1); // not the dialog's own
 }
@@ -78,10 +87,6 @@ CString nameOfControlMessage(UINT message, WPARAM wParam, LPARAM lParam)
     if (message == WM_COMMAND)
         return nameOfCommand(HIWORD(wParam), reinterpret_cast<HWND>(lParam));
     if (message == WM_NOTIFY)
-    {
-        CString text;
-        text.Format(L"WM_NOTIFY %d", static_cast<int>(reinterpret_cast<const NMHDR*>(lParam)->code));
-        return text;
-    }
+        return find(notifyCodes, reinterpret_cast<const NMHDR*>(lParam)->code, L"WM_NOTIFY");
     return find(ownMessages, message, L"message");
 }

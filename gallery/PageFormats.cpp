@@ -134,12 +134,12 @@ void CPageFormats::showKeystrokes(const CKxSemantic& semantic, const CString& te
         try
         {
             standing = semantic.AnalyseSemantic(typed);
-            line.Format(L"%s  \x2192  %s", typed.GetString(), standing.GetString());
+            line.Format(L"%s  >  %s", typed.GetString(), standing.GetString());
         }
         catch (CInvalidArgException* exception) // behind the end of the format
         {
             exception->Delete();
-            line.Format(L"%s  \x2192  behind the end of the format", typed.GetString());
+            line.Format(L"%s  >  behind the end of the format", typed.GetString());
         }
         m_keystrokes.AddString(line);
     }

@@ -63,6 +63,7 @@ CPoint CPageTips::pointOf(int id) const
 void CPageTips::OnBalloonLeft()
 {
     CWnd* button = GetDlgItem(IDC_BALLOON_LEFT);
+    m_rightBalloon.Hide();
     m_leftBalloon.AddTool(button, tipText(), pointOf(IDC_BALLOON_LEFT), darkBlue);
     m_leftBalloon.ShowToolTip(button->m_hWnd);
 }
@@ -70,6 +71,7 @@ void CPageTips::OnBalloonLeft()
 void CPageTips::OnBalloonRight()
 {
     CWnd* button = GetDlgItem(IDC_BALLOON_RIGHT);
+    m_leftBalloon.Hide();
     m_rightBalloon.AddTool(button, tipText(), pointOf(IDC_BALLOON_RIGHT), darkBlue);
     m_rightBalloon.ShowToolTip(button->m_hWnd);
 }

@@ -121,7 +121,7 @@ void CPageUnits::showState()
             si.Format(L"%.10g", value);
             text = canonicalText(*field.GetUnit(), value);
         }
-        flags.Format(L"%s%s, %d items", field.GetVariant() ? L"variant, " : L"",
+        flags.Format(L"%s%s, %d item%s", field.GetVariant() ? L"variant, " : L"",
                      field.GetVisibility() ? L"visible" : L"not visible", field.GetCount());
         const CString shown[] = {si, text, flags};
         for (int k = 0; k < 3; ++k)
