@@ -14,7 +14,6 @@ HINSTANCE finderOfDialog()
     return AfxFindResourceHandle(MAKEINTRESOURCE(IDD_FILED), RT_DIALOG);
 }
 
-/// Where a text block 1 of the string table is found: the program and the sibling both have some, of other numbers.
 HINSTANCE finderOfIcon()
 {
     return AfxFindResourceHandle(MAKEINTRESOURCE(20922), RT_GROUP_ICON);
@@ -72,19 +71,23 @@ TEST(ResOverride, nested_scopes_put_back_what_each_found)
 
 TEST(ResOverride, a_module_that_is_not_loaded_is_opened_for_its_resources_and_closed_again)
 {
-    constexpr wchar_t file[] = L"msacm32.dll";
-    ASSERT_EQ(GetModuleHandleW(file), nullptr);
+    wchar_t original[MAX_PATH] = L"", folder[MAX_PATH] = L"";
+    GetModuleFileNameW(GetModuleHandleW(c_sibling), original, MAX_PATH);
+    GetTempPathW(MAX_PATH, folder);
+    const CString copy = CString(folder) + L"copy-of-the-sibling.dll";
+    ASSERT_TRUE(CopyFileW(original, copy, FALSE));
     const HINSTANCE before = AfxGetResourceHandle();
-    HINSTANCE opened = nullptr;
     {
-        const CKxToolsResOverride scope{CString(file)};
-        opened = AfxGetResourceHandle();
+        const CKxToolsResOverride scope(copy);
+        const HINSTANCE opened = AfxGetResourceHandle();
         EXPECT_NE(opened, before);
-        EXPECT_NE(FindResourceW(opened, MAKEINTRESOURCEW(1), RT_VERSION), nullptr);
-        EXPECT_EQ(GetModuleHandleW(file), nullptr); // none of its code was loaded
+        EXPECT_NE(opened, GetModuleHandleW(c_sibling));
+        EXPECT_EQ(finderOfIcon(), opened);
+        EXPECT_NE(FindResourceW(opened, MAKEINTRESOURCEW(20922), RT_GROUP_ICON), nullptr);
+        EXPECT_EQ(GetModuleHandleW(copy), nullptr); // none of its code was loaded
     }
     EXPECT_EQ(AfxGetResourceHandle(), before);
-    EXPECT_EQ(FindResourceW(opened, MAKEINTRESOURCEW(1), RT_VERSION), nullptr);
+    EXPECT_TRUE(DeleteFileW(copy)); // it is not held open
 }
 
 TEST(ResOverride, what_cannot_be_found_changes_nothing)
