@@ -41,6 +41,10 @@ int CString::Find(LPCWSTR pszSub, int iStart) const noexcept
     {
         return -1;
     }
+    if (*pszSub == L'\0')
+    {
+        return iStart; // also at the very end, where the C libraries differ
+    }
     const wchar_t* const found = std::wcsstr(m_psz + iStart, pszSub);
     return found != nullptr ? static_cast<int>(found - m_psz) : -1;
 }
