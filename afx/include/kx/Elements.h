@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <type_traits>
 
+#include "kx/Diagnostics.h"
 #include "kx/String.h"
 
 /// Whether two elements are equal: used by CList::Find and by the keys of CMap.
