@@ -1,9 +1,19 @@
 // How a tool is described to the standard tool tip control.
 #include "oxa/tooltips/KxToolTip.h"
 
+#include <cwchar>
+
 namespace
 {
-TOOLINFOW describe(CWnd& window, const wchar_t* text, UINT flags)
+// The control answers with whole texts, into buffers whose size it is not told; it shows far fewer characters.
+constexpr size_t longestText = 0x8000 - 2;
+
+bool isText(const wchar_t* text)
+{
+    return text != LPSTR_TEXTCALLBACKW && !IS_INTRESOURCE(text);
+}
+
+TOOLINFOW describe(CWnd& window, UINT flags)
 {
     TOOLINFOW tool = {};
     tool.cbSize = sizeof tool;
@@ -11,16 +21,22 @@ TOOLINFOW describe(CWnd& window, const wchar_t* text, UINT flags)
     tool.uFlags = flags;
     tool.hwnd = window.GetSafeHwnd();
     tool.hinst = AfxGetInstanceHandle();
-    tool.lpszText = const_cast<wchar_t*>(text); // only read by TTM_ADDTOOLW
     return tool;
 }
 
-BOOL add(CWnd& control, TOOLINFOW& tool)
+BOOL add(CWnd& control, TOOLINFOW& tool, const wchar_t* text)
 {
     if (control.GetSafeHwnd() == nullptr)
     {
         return FALSE;
     }
+    CString cut;
+    if (isText(text) && std::wcsnlen(text, longestText + 1) > longestText)
+    {
+        cut = CString(text, static_cast<int>(longestText));
+        text = cut;
+    }
+    tool.lpszText = const_cast<wchar_t*>(text); // only read by TTM_ADDTOOLW
     return static_cast<BOOL>(control.SendMessage(TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool)));
 }
 } // namespace
@@ -31,9 +47,9 @@ BOOL CKxToolTip::AddWindowTool(CWnd* window, const wchar_t* text)
     {
         return FALSE;
     }
-    TOOLINFOW tool = describe(*window, text, TTF_IDISHWND | TTF_SUBCLASS);
+    TOOLINFOW tool = describe(*window, TTF_IDISHWND | TTF_SUBCLASS);
     tool.uId = reinterpret_cast<UINT_PTR>(tool.hwnd);
-    return add(*this, tool);
+    return add(*this, tool, text);
 }
 
 BOOL CKxToolTip::AddRectTool(CWnd* window, const wchar_t* text, const RECT* rect, unsigned int id)
@@ -42,8 +58,8 @@ BOOL CKxToolTip::AddRectTool(CWnd* window, const wchar_t* text, const RECT* rect
     {
         return FALSE;
     }
-    TOOLINFOW tool = describe(*window, text, TTF_SUBCLASS);
+    TOOLINFOW tool = describe(*window, TTF_SUBCLASS);
     tool.uId = id;
     tool.rect = *rect;
-    return add(*this, tool);
+    return add(*this, tool, text);
 }

@@ -159,6 +159,17 @@ TEST_F(StandardTip, odd_texts_are_harmless)
     EXPECT_EQ(3, toolCount());
 }
 
+TEST_F(StandardTip, a_text_beyond_any_length_is_cut_to_what_the_control_can_answer)
+{
+    EXPECT_EQ(TRUE, tip.AddWindowTool(&button, CString(L'H', 100000)));
+    CToolInfo info;
+    EXPECT_TRUE(tip.GetToolInfo(info, &button));
+    CString text;
+    tip.GetText(text, &button);
+    EXPECT_LE(text.GetLength(), 32766);
+    EXPECT_TRUE(text.Left(79) == CString(L'H', 79));
+}
+
 TEST_F(StandardTip, a_window_object_without_a_window_is_harmless)
 {
     CWnd notCreated;
