@@ -31,7 +31,7 @@ BOOL add(CWnd& control, TOOLINFOW& tool, const wchar_t* text)
         return FALSE;
     }
     CString cut;
-    if (isText(text) && std::wcsnlen(text, longestText + 1) > longestText)
+    if (isText(text) && ::wcsnlen(text, longestText + 1) > longestText)
     {
         cut = CString(text, static_cast<int>(longestText));
         text = cut;
