@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <climits>
 #include <memory>
+#include <vector>
 
 #include "TipHost.h"
 #include "support/LeakCounters.h"
@@ -26,6 +28,25 @@ protected:
 private:
     int& deleted;
 };
+
+// The blocks that the process has taken from its heaps.
+int heapBlockCount()
+{
+    HANDLE heaps[64];
+    const DWORD heapCount = std::min<DWORD>(::GetProcessHeaps(64, heaps), 64);
+    int blocks = 0;
+    for (DWORD i = 0; i < heapCount; ++i)
+    {
+        PROCESS_HEAP_ENTRY entry = {};
+        ::HeapLock(heaps[i]);
+        while (::HeapWalk(heaps[i], &entry))
+        {
+            blocks += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0;
+        }
+        ::HeapUnlock(heaps[i]);
+    }
+    return blocks;
+}
 
 void useBalloonOnce(CWnd& host)
 {
@@ -156,18 +177,40 @@ TEST(BalloonLife, points_at_the_ends_of_the_number_range_are_placed_on_the_scree
     EXPECT_TRUE(windowRect(tip) == CRect(0, -80, 180, 0));
 }
 
-TEST(BalloonLife, the_balloon_owns_its_tools)
+TEST(BalloonLife, the_balloon_frees_replaced_tools_and_at_its_end_all_others)
 {
     TipHost host;
+    CWnd button;
+    ASSERT_TRUE(makeButton(button, host, 7));
+    const auto file = [&](KxToolTip2& tip, int times)
+    {
+        for (int i = 0; i < times; ++i)
+        {
+            tip.AddTool(&host, CString(L'a', 100), CPoint(i, i), 0);
+            tip.AddTool(&button, CString(L'b', 100), CPoint(i, i), 0);
+        }
+    };
+    KxToolTip2 replacing;
+    file(replacing, 1);
+    const int before = heapBlockCount();
+    file(replacing, 1000);
     for (int i = 0; i < 1000; ++i)
     {
-        KxToolTip2 tip;
-        CWnd button;
-        ASSERT_TRUE(makeButton(button, host, 7));
-        tip.AddTool(&host, CString(L'a', 100), CPoint(i, i), 0);
-        tip.AddTool(&button, CString(L'b', 100), CPoint(i, i), 0);
-        tip.AddTool(&button, CString(L'c', 100), CPoint(i, i), 0);
+        KxToolTip2 ending;
+        file(ending, 1);
     }
+    EXPECT_LT(heapBlockCount() - before, 500); // one record lost each time would be 1000 and more
+}
+
+TEST(BalloonLife, a_lost_block_is_seen_by_the_count_of_blocks)
+{
+    const int before = heapBlockCount();
+    std::vector<std::unique_ptr<CString>> kept;
+    for (int i = 0; i < 1000; ++i)
+    {
+        kept.push_back(std::make_unique<CString>(L'a', 100));
+    }
+    EXPECT_GE(heapBlockCount() - before, 1000);
 }
 
 TEST(BalloonLife, a_derived_balloon_may_delete_itself_with_its_window)

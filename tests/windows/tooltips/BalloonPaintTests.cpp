@@ -12,7 +12,7 @@
 namespace
 {
 constexpr COLORREF paper = 0xE6FFFF;
-const CRect inside(12, 2, 178, 68); // the body within its frame and corners
+const CRect inside(15, 1, 174, 68); // the body within its frame, without its rounded corners
 
 struct BalloonPaint : testing::Test
 {

@@ -3,6 +3,7 @@
 
 #include <afxwin.h>
 
+#include <algorithm>
 #include <functional>
 #include <vector>
 
@@ -72,7 +73,10 @@ public:
         ::ReleaseDC(nullptr, screen);
     }
 
-    COLORREF at(int x, int y) const { return colors[static_cast<size_t>(y * width + x)]; }
+    COLORREF at(int x, int y) const
+    {
+        return colors.at(static_cast<size_t>(y) * static_cast<size_t>(width) + static_cast<size_t>(x));
+    }
 
     /// How many pixels of `where` have a colour that `wanted` accepts.
     int count(const CRect& where, const std::function<bool(COLORREF)>& wanted) const
