@@ -206,6 +206,7 @@ TEST(BalloonLife, a_lost_block_is_seen_by_the_count_of_blocks)
 {
     const int before = heapBlockCount();
     std::vector<std::unique_ptr<CString>> kept;
+    kept.reserve(1000);
     for (int i = 0; i < 1000; ++i)
     {
         kept.push_back(std::make_unique<CString>(L'a', 100));
