@@ -14,7 +14,7 @@ namespace
 {
 
 constexpr size_t c_headSize = 16;
-constexpr size_t c_longText = 65536;
+constexpr size_t c_longText = 20000;
 
 void require(bool good, const char* what)
 {
