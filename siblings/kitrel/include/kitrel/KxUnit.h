@@ -65,8 +65,14 @@ class KITREL_API CKxUnit : public KX_UNIT_BASE
 {
     DECLARE_DYNAMIC(CKxUnit)
 public:
-    /// Room that the text of a value can need, in characters and with the closing NUL, whatever unit and arguments.
-    static constexpr unsigned int c_nTextSize = 256;
+    // Enumerators, which need no storage in the library that a host would have to import.
+    enum : unsigned int
+    {
+        /// Room that the text of a value can need, in characters and with the closing NUL, whatever unit and arguments.
+        c_nTextSize = 256,
+        c_nFamilies = 21,
+        c_nPrecisions = 9,
+    };
 
     /// Metres, three decimals, a decimal point.
     CKxUnit();
@@ -169,9 +175,6 @@ public:
 
     /// Cuts a tolerance such as `±0.5` off the end of `text`, and a leading `≈`. Any other text stays as it is.
     static void EliminatePrecision(CString& text);
-
-    static constexpr unsigned int c_nFamilies = 21;
-    static constexpr unsigned int c_nPrecisions = 9;
 
     /// Texts of the decimal precisions 0 to 8: "0", "0.0", ...
     static const wchar_t* const c_arrayPrecision[c_nPrecisions];
