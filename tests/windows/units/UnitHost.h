@@ -3,6 +3,7 @@
 #include <afxwin.h>
 #include <functional>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <vector>
 #include "kitrel/KxUnit.h"
@@ -73,7 +74,8 @@ public:
         : metre(std::make_unique<OpenUnitCombo>()), feet(std::make_unique<OpenUnitCombo>()),
           droplist(std::make_unique<OpenUnitCombo>())
     {
-        Create(IDD_UNIT_HOST);
+        if (!Create(IDD_UNIT_HOST))
+            throw std::runtime_error("the host dialog could not be created");
         SetForegroundWindow();
         pump();
         focusOn(IDC_BEFORE);

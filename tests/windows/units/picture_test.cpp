@@ -8,18 +8,18 @@
 namespace
 {
 /// The number of pixels of a colour within a window.
-int pixelsOf(const CWnd& window, COLORREF colour)
+int pixelsOf(HWND window, COLORREF colour)
 {
     RECT area = {};
-    ::GetClientRect(window.m_hWnd, &area);
-    const HDC source = ::GetDC(window.m_hWnd);
+    ::GetClientRect(window, &area);
+    const HDC source = ::GetDC(window);
     int count = 0;
     for (int y = 0; y < area.bottom; ++y)
     {
         for (int x = 0; x < area.right; ++x)
             count += ::GetPixel(source, x, y) == colour ? 1 : 0;
     }
-    ::ReleaseDC(window.m_hWnd, source);
+    ::ReleaseDC(window, source);
     return count;
 }
 
@@ -50,8 +50,10 @@ protected:
 TEST_F(UnitComboPicture, focused_shows_the_selected_text)
 {
     host.focusOn(IDC_METRE);
+    host.press(VK_HOME);
+    host.press(VK_END, true);
     draw();
-    EXPECT_GT(pixelsOf(*host.metre, ::GetSysColor(COLOR_HIGHLIGHT)), 100);
+    EXPECT_GT(pixelsOf(host.metre->editField(), ::GetSysColor(COLOR_HIGHLIGHT)), 100);
     EXPECT_TRUE(saveWindowPng(host.m_hWnd, fileNamed(L"unit-combo-focused.png").c_str()));
 }
 
@@ -73,10 +75,10 @@ TEST_F(UnitComboPicture, disabled_shows_its_text_in_grey)
 {
     host.focusOn(IDC_AFTER);
     draw();
-    EXPECT_EQ(pixelsOf(*host.metre, ::GetSysColor(COLOR_GRAYTEXT)), 0);
+    EXPECT_EQ(pixelsOf(host.metre->editField(), ::GetSysColor(COLOR_GRAYTEXT)), 0);
     host.metre->EnableWindow(FALSE);
     draw();
-    EXPECT_GT(pixelsOf(*host.metre, ::GetSysColor(COLOR_GRAYTEXT)), 10);
+    EXPECT_GT(pixelsOf(host.metre->editField(), ::GetSysColor(COLOR_GRAYTEXT)), 10);
     EXPECT_TRUE(saveWindowPng(host.m_hWnd, fileNamed(L"unit-combo-disabled.png").c_str()));
 }
 } // namespace

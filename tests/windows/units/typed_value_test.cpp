@@ -17,6 +17,8 @@ protected:
     {
         host.focusOn(IDC_BEFORE);
         host.press(VK_TAB);
+        host.press(VK_HOME);
+        host.press(VK_END, true);
         host.heard.clear();
         host.type(text);
         EXPECT_EQ(host.count(WM_KX_UNIT_VALIDATED), 0) << "nothing is committed while typing";
@@ -149,9 +151,15 @@ TEST_F(TypedValue, is_dropped_when_an_item_is_picked_from_the_open_list)
     EXPECT_TRUE(host.metre->isChanged());
     host.press(VK_F4);
     EXPECT_TRUE(host.metre->GetDroppedState());
-    host.press(VK_DOWN);
-    host.press(VK_RETURN);
-    EXPECT_FALSE(host.metre->GetDroppedState());
+    COMBOBOXINFO info = {};
+    info.cbSize = sizeof info;
+    ASSERT_TRUE(::GetComboBoxInfo(host.metre->m_hWnd, &info));
+    RECT second = {};
+    ::SendMessageW(info.hwndList, LB_GETITEMRECT, 1, reinterpret_cast<LPARAM>(&second));
+    ::MapWindowPoints(info.hwndList, nullptr, reinterpret_cast<POINT*>(&second), 2);
+    click({(second.left + second.right) / 2, (second.top + second.bottom) / 2});
+    EXPECT_TRUE(waitFor([&] { return host.metre->GetDroppedState() == FALSE; }));
+    EXPECT_EQ(host.metre->shown(), L"1.000 m | [2.000 m]");
     EXPECT_FALSE(host.metre->isChanged());
     host.press(VK_TAB);
     EXPECT_EQ(host.count(WM_KX_UNIT_VALIDATED), 0);
