@@ -62,6 +62,7 @@ public:
     /// Takes an item out of the list behind the control's back.
     void StealItem(int index) { list.DeleteString(static_cast<unsigned int>(index)); }
 
+    static constexpr std::size_t longestTyped = 100000;
     MemoryListBox list;
 
 private:

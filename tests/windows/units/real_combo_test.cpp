@@ -9,6 +9,9 @@ namespace
 class RealUnitCombo
 {
 public:
+    /// The platform's edit field takes seconds for a text of 20,000 characters.
+    static constexpr std::size_t longestTyped = 3000;
+
     RealUnitCombo()
     {
         m_parent.CreateEx(0, AfxRegisterWndClass(0), L"units", WS_POPUP, CRect(0, 0, 200, 200), nullptr, 0);
