@@ -71,4 +71,13 @@ constexpr unsigned of(wchar_t ch)
     const auto code = static_cast<std::uint32_t>(ch);
     return code < table.size() ? table[code] : 0U;
 }
+
+/// The test of one character: against classes, or without any by character code against a range.
+constexpr bool passes(wchar_t ch, unsigned classes, wchar_t low, wchar_t high)
+{
+    if (classes != 0)
+        return (of(ch) & classes) != 0;
+    const auto code = static_cast<std::uint32_t>(ch);
+    return static_cast<std::uint32_t>(low) <= code && code <= static_cast<std::uint32_t>(high);
+}
 } // namespace CharacterClasses

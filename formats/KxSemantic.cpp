@@ -23,6 +23,7 @@ CKxSemantic::~CKxSemantic()
 void CKxSemantic::DeleteNodes()
 {
     m_steps.clear();
+    m_takesPrecisionMarks = false;
     while (m_nodes.GetHeadPosition())
         delete m_nodes.RemoveHead();
 }
@@ -177,5 +178,6 @@ void CKxSemantic::PlanSteps()
             classes = CharacterClasses::Digit | CharacterClasses::FeetAndInches;
         m_steps.push_back({text.GetString(), text.GetLength(), node->GetCount(), node->GetKind()[0], classes, text[0],
                            text[text.GetLength() - 1]});
+        m_takesPrecisionMarks = m_takesPrecisionMarks || TakesPrecisionMarks(m_steps.back());
     }
 }

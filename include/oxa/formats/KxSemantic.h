@@ -69,6 +69,7 @@ private:
         wchar_t high;
     };
     struct Walk;
+    struct Judgement;
 
     int CheckHook(CString& format);
     int CheckParenthesis(CString& format);
@@ -83,8 +84,8 @@ private:
     void ReadSeparator(const CString& format);
     void DeleteNodes();
     void PlanSteps();
-    int Judge(const wchar_t* text, int length) const;
-    bool IsArchNumber(const wchar_t* text, int length) const;
+    int Judge(const CString& text) const;
+    static bool TakesPrecisionMarks(const Step& step);
 
     int m_cursor = 0;
     int m_length = 0;
@@ -95,4 +96,5 @@ private:
     bool m_architectural = false;
     CKxUnit m_unit;
     std::vector<Step> m_steps;
+    bool m_takesPrecisionMarks = false; ///< whether a text with a precision mark may fit as it is
 };

@@ -221,6 +221,16 @@ TEST(ValidAdd, a_precision_mark_is_left_out)
     EXPECT_EQ(valid(L"[(N)x]", L"\u224812"), 1);
 }
 
+TEST(ValidAdd, marks_and_symbols_go_before_the_text_is_judged)
+{
+    EXPECT_EQ(valid(L"[(N)1] [(C)2]", L"1 mm"), 0);          // judged as "1"
+    EXPECT_EQ(valid(L"[(N)1]\u00b1[(N)1]", L"1\u00b12"), 0); // the same
+    EXPECT_EQ(valid(L"[(\u00a0-\u00ff)2]", L"\u00b1\u00b1"), 1);
+    EXPECT_EQ(valid(L"[(\u2240-\u2250)2]", L"\u2248\u2248"), 1); // one goes, one stays
+    EXPECT_EQ(valid(L"[(\u2240-\u2250)1]", L"\u2248\u2248"), 1);
+    EXPECT_EQ(valid(L"[(A)x]", L"a\u2248b"), 0);
+}
+
 TEST(ValidAdd, in_architectural_mode_the_symbol_stays)
 {
     EXPECT_EQ(feetValid(L"[(N)x]", L"12 mm"), 0);
