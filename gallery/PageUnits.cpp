@@ -122,7 +122,8 @@ void CPageUnits::showState()
             text = canonicalText(*field.GetUnit(), value);
         }
         flags.Format(L"%s%s, %d item%s", field.GetVariant() ? L"variant, " : L"",
-                     field.GetVisibility() ? L"visible" : L"not visible", field.GetCount());
+                     field.GetVisibility() ? L"visible" : L"not visible", field.GetCount(),
+                     field.GetCount() == 1 ? L"" : L"s");
         const CString shown[] = {si, text, flags};
         for (int k = 0; k < 3; ++k)
         {
