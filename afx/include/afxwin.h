@@ -15,6 +15,7 @@
 #include "kx/Module.h"
 #include "kx/WinThread.h"
 #include "kx/WinApp.h"
+#include "kx/WaitCursor.h"
 #include "kx/Dialog.h"
 #include "kx/FrameWnd.h"
 #include "kx/Ddx.h"

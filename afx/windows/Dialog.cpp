@@ -1,6 +1,8 @@
 // Dialogs: made from templates, run modally or not.
 #include <afxwin.h>
 
+#include <cstring>
+
 #include "ThreadState.h"
 
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
@@ -44,6 +46,28 @@ HGLOBAL loadTemplate(LPCTSTR name, HINSTANCE module)
 {
     HRSRC found = ::FindResource(module, name, RT_DIALOG);
     return found != nullptr ? ::LoadResource(module, found) : nullptr;
+}
+
+/// What both kinds of templates begin with.
+struct TemplateHead
+{
+    DWORD style;
+    short x;
+    short y;
+};
+
+// The extended kind begins with a version and a signature, where the other has its style.
+TemplateHead headOf(const DLGTEMPLATE* dialogTemplate)
+{
+    const auto* bytes = reinterpret_cast<const BYTE*>(dialogTemplate);
+    WORD start[2] = {};
+    memcpy(start, bytes, sizeof start);
+    const bool extended = start[0] == 1 && start[1] == 0xFFFF;
+    TemplateHead head = {};
+    memcpy(&head.style, bytes + (extended ? 12 : 0), sizeof head.style);
+    memcpy(&head.x, bytes + (extended ? 18 : 10), sizeof head.x);
+    memcpy(&head.y, bytes + (extended ? 20 : 12), sizeof head.y);
+    return head;
 }
 
 bool isMultilineEdit(HWND wnd)
@@ -114,14 +138,19 @@ BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HIN
         instance = AfxGetInstanceHandle();
     m_nModalResult = -1;
     m_nFlags |= WF_CONTINUEMODAL; // taken back by EndDialog in OnInitDialog
+    m_pMadeFrom = dialogTemplate;
     AfxHookWindowCreate(this);
     HWND wnd = ::CreateDialogIndirectParam(instance, dialogTemplate, parent->GetSafeHwnd(), AfxDlgProc, 0);
     if (!AfxUnhookWindowCreate())
     {
+        m_pMadeFrom = nullptr;
         PostNcDestroy();
         return FALSE;
     }
-    if (wnd != nullptr && m_hWnd == wnd && (m_nFlags & WF_CONTINUEMODAL) == 0)
+    if (wnd == nullptr)
+        return FALSE; // ended on the way; the object may have deleted itself
+    m_pMadeFrom = nullptr;
+    if (m_hWnd == wnd && (m_nFlags & WF_CONTINUEMODAL) == 0)
     {
         ::DestroyWindow(wnd);
         wnd = nullptr;
@@ -190,6 +219,14 @@ INT_PTR CDialog::DoModal()
     DestroyWindow();
     PostModal();
     return m_nModalResult;
+}
+
+BOOL CDialog::CheckAutoCenter()
+{
+    if (m_pMadeFrom == nullptr)
+        return TRUE;
+    const TemplateHead head = headOf(m_pMadeFrom);
+    return (head.style & (DS_CENTER | DS_CENTERMOUSE | DS_ABSALIGN)) == 0 && head.x == 0 && head.y == 0;
 }
 
 HWND CDialog::PreModal()

@@ -3,6 +3,7 @@
 
 #include <mutex>
 
+#include "ModuleChain.h"
 #include "ThreadState.h"
 
 namespace
@@ -28,18 +29,16 @@ void join(CDynLinkLibrary* library)
     state->m_pFirstLibrary = library;
 }
 
-bool holdsResource(HINSTANCE module, LPCTSTR name, LPCTSTR type)
-{
-    return module != nullptr && ::FindResource(module, name, type) != nullptr;
-}
-
-HINSTANCE findInChain(LPCTSTR name, LPCTSTR type, bool system)
+HINSTANCE findInChain(const std::function<bool(HINSTANCE)>& holds, bool system)
 {
     const std::lock_guard<std::recursive_mutex> guard(chainMutex());
     for (const CDynLinkLibrary* library = AfxGetAppModuleState()->m_pFirstLibrary; library != nullptr;
          library = library->m_pNextDLL)
-        if ((library->m_bSystem != FALSE) == system && holdsResource(library->m_hResource, name, type))
+    {
+        const bool asked = (library->m_bSystem != FALSE) == system && library->m_hResource != nullptr;
+        if (asked && holds(library->m_hResource))
             return library->m_hResource;
+    }
     return nullptr;
 }
 } // namespace
@@ -150,16 +149,22 @@ void AfxSetResourceHandle(HINSTANCE instance)
     AfxGetModuleState()->m_hCurrentResourceHandle = instance;
 }
 
-HINSTANCE AfxFindResourceHandle(LPCTSTR name, LPCTSTR type)
+HINSTANCE kxFindModule(const std::function<bool(HINSTANCE)>& holds)
 {
     HINSTANCE inForce = AfxGetResourceHandle();
-    if (holdsResource(inForce, name, type))
+    if (holds(inForce))
         return inForce;
-    if (HINSTANCE found = findInChain(name, type, false))
+    if (HINSTANCE found = findInChain(holds, false))
         return found;
-    if (HINSTANCE found = findInChain(name, type, true))
+    if (HINSTANCE found = findInChain(holds, true))
         return found;
-    return holdsResource(kxFrameworkModule(), name, type) ? kxFrameworkModule() : inForce;
+    return holds(kxFrameworkModule()) ? kxFrameworkModule() : nullptr;
+}
+
+HINSTANCE AfxFindResourceHandle(LPCTSTR name, LPCTSTR type)
+{
+    HINSTANCE found = kxFindModule([=](HINSTANCE module) { return ::FindResource(module, name, type) != nullptr; });
+    return found != nullptr ? found : AfxGetResourceHandle();
 }
 
 HINSTANCE AfxLoadLibrary(LPCTSTR module)

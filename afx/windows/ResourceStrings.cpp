@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "ThreadState.h"
+#include "ModuleChain.h"
 
 namespace
 {
@@ -40,19 +40,12 @@ int placeHolderIndex(TCHAR c)
 }
 } // namespace
 
+// By string and not by table: a table holds sixteen strings, and a module may have the table without the string.
 HINSTANCE AfxFindStringResourceHandle(UINT id)
 {
-    TableString found;
-    HINSTANCE inForce = AfxGetResourceHandle();
-    if (inTable(inForce, id, found))
-        return inForce;
-    for (const bool system : {false, true})
-        for (const CDynLinkLibrary* library = AfxGetAppModuleState()->m_pFirstLibrary; library != nullptr;
-             library = library->m_pNextDLL)
-            if ((library->m_bSystem != FALSE) == system && inTable(library->m_hResource, id, found))
-                return library->m_hResource;
-    HINSTANCE framework = kxFrameworkModule();
-    return inTable(framework, id, found) ? framework : inForce;
+    TableString ignored;
+    HINSTANCE found = kxFindModule([&](HINSTANCE module) { return inTable(module, id, ignored); });
+    return found != nullptr ? found : AfxGetResourceHandle();
 }
 
 int AfxLoadString(UINT id, LPTSTR buffer, UINT maxCount)

@@ -21,6 +21,7 @@ KxThreadState::~KxThreadState()
         ::UnhookWindowsHookEx(createHook);
     for (auto& entry : temporary)
         entry.second->m_hWnd = nullptr; // borrowed, not ours to destroy
+    temporary.clear();                  // while this state can still be asked for
 }
 
 KxThreadState& kxThread()
@@ -37,8 +38,8 @@ KxThreadState& kxThread()
 void kxEndThread()
 {
     auto* state = static_cast<KxThreadState*>(::TlsGetValue(slot()));
-    ::TlsSetValue(slot(), nullptr);
     delete state;
+    ::TlsSetValue(slot(), nullptr);
 }
 
 HINSTANCE kxFrameworkModule()

@@ -1,6 +1,7 @@
 // Painting, showing, fonts, menus and carets of a window.
 #include <afxwin.h>
 
+#include "kx/ImageList.h"
 #include "ThreadState.h"
 
 CDC* CWnd::BeginPaint(LPPAINTSTRUCT paint)
@@ -199,6 +200,7 @@ BOOL AfxUnlockTempMaps(BOOL deleteTemps)
         CDC::DeleteTempMap();
         CGdiObject::DeleteTempMap();
         CMenu::DeleteTempMap();
+        CImageList::DeleteTempMap();
     }
     return thread.tempLocks != 0;
 }

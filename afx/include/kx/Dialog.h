@@ -38,6 +38,8 @@ public:
     virtual BOOL OnInitDialog();
     virtual void OnSetFont(CFont* font);
     BOOL PreTranslateMessage(MSG* message) override;
+    /// FALSE for a template that says where the dialog is to stand.
+    BOOL CheckAutoCenter() override;
     BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override;
 
 protected:
@@ -60,6 +62,7 @@ protected:
     HWND m_hWndTop = nullptr; ///< disabled while the dialog is modal
 
 private:
+    LPCDLGTEMPLATE m_pMadeFrom = nullptr; ///< only while the window is being made
     friend INT_PTR CALLBACK AfxDlgProc(HWND, UINT, WPARAM, LPARAM);
 
     DECLARE_MESSAGE_MAP()

@@ -1,0 +1,21 @@
+/* Ids of the test resources. */
+#define IDD_DATA 501
+#define IDD_MULTILINE 502
+#define IDC_TEXT 1001
+#define IDC_CHECK 1002
+#define IDC_RADIO1 1003
+#define IDC_RADIO2 1004
+#define IDC_RADIO3 1005
+#define IDC_LIST 1006
+#define IDC_COMBO 1007
+#define IDC_SCROLL 1008
+#define IDS_PLAIN 601
+#define IDS_TWO 602
+#define IDS_SWAPPED 603
+#define IDR_FRAME 700
+#define ID_TEST_DO 0x8001
+#define ID_TEST_NOBODY 0x8002
+#define ID_TEST_CHECK 0x8003
+#define ID_TEST_TEXT 0x8004
+#define ID_TEST_APP 0x8005
+#define ID_TEST_OFF 0x8006
