@@ -1,0 +1,250 @@
+// Combo boxes.
+#include "Support.h"
+#include "resource.h"
+
+namespace
+{
+const CRect place(10, 10, 210, 200);
+
+class CNames : public CComboBox
+{
+public:
+    explicit CNames(CWnd& parent, DWORD style = CBS_DROPDOWN)
+    {
+        Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | style, place, &parent, 5);
+        for (const wchar_t* name : {L"alpha", L"beta", L"gamma", L"delta"})
+            AddString(name);
+    }
+};
+
+class CDrawnCombo : public CComboBox
+{
+public:
+    int drawn = 0;
+    int measured = 0;
+    int compared = 0;
+    int deleted = 0;
+    void DrawItem(LPDRAWITEMSTRUCT) override { ++drawn; }
+    void MeasureItem(LPMEASUREITEMSTRUCT item) override
+    {
+        ++measured;
+        item->itemHeight = 22;
+    }
+    int CompareItem(LPCOMPAREITEMSTRUCT items) override
+    {
+        ++compared;
+        return items->itemData1 < items->itemData2 ? -1 : items->itemData1 > items->itemData2;
+    }
+    void DeleteItem(LPDELETEITEMSTRUCT) override { ++deleted; }
+};
+} // namespace
+
+TEST(ComboBox, strings_are_added_inserted_found_and_deleted)
+{
+    CParentWindow parent;
+    CNames combo(parent);
+    EXPECT_EQ(4, combo.GetCount());
+    EXPECT_EQ(1, combo.InsertString(1, L"aleph"));
+    EXPECT_EQ(5, combo.InsertString(-1, L"omega"));
+    EXPECT_EQ(1, combo.FindString(0, L"al"));
+    EXPECT_EQ(0, combo.FindString(1, L"alp")) << "the search wraps to the top";
+    EXPECT_EQ(2, combo.FindStringExact(-1, L"BETA"));
+    EXPECT_EQ(CB_ERR, combo.FindStringExact(-1, L"bet"));
+    EXPECT_EQ(2, combo.SelectString(-1, L"be"));
+    EXPECT_EQ(5, combo.DeleteString(0));
+    EXPECT_EQ(CB_ERR, combo.DeleteString(99));
+    combo.ResetContent();
+    EXPECT_EQ(0, combo.GetCount());
+}
+
+TEST(ComboBox, texts_of_any_length_and_of_no_item)
+{
+    CParentWindow parent;
+    CNames combo(parent);
+    const std::wstring longer(100000, L'z');
+    const int index = combo.AddString(longer.c_str());
+    EXPECT_EQ(100000, combo.GetLBTextLen(index));
+    CString text(L"before");
+    combo.GetLBText(index, text);
+    EXPECT_EQ(longer, plain(text));
+    combo.GetLBText(99, text);
+    EXPECT_TRUE(text.IsEmpty());
+    combo.GetLBText(-1, text);
+    EXPECT_TRUE(text.IsEmpty());
+    wchar_t buffer[16] = {};
+    EXPECT_EQ(5, combo.GetLBText(0, buffer));
+    EXPECT_STREQ(L"alpha", buffer);
+    EXPECT_EQ(CB_ERR, combo.GetLBText(99, buffer));
+    EXPECT_EQ(CB_ERR, combo.GetLBTextLen(99));
+}
+
+TEST(ComboBox, selection_and_data)
+{
+    CParentWindow parent;
+    CNames combo(parent);
+    EXPECT_EQ(CB_ERR, combo.GetCurSel());
+    EXPECT_EQ(2, combo.SetCurSel(2));
+    CString text;
+    combo.GetWindowText(text);
+    EXPECT_EQ(L"gamma", plain(text));
+    EXPECT_EQ(CB_ERR, combo.SetCurSel(-1));
+    EXPECT_EQ(CB_ERR, combo.SetCurSel(99));
+    EXPECT_NE(CB_ERR, combo.SetItemData(1, 0x123456789ULL));
+    EXPECT_EQ(0x123456789ULL, combo.GetItemData(1));
+    EXPECT_EQ(static_cast<DWORD_PTR>(CB_ERR), combo.GetItemData(99));
+    EXPECT_EQ(CB_ERR, combo.SetItemData(99, 1));
+    int value = 0;
+    combo.SetItemDataPtr(0, &value);
+    EXPECT_EQ(&value, combo.GetItemDataPtr(0));
+}
+
+TEST(ComboBox, the_edit_field)
+{
+    CParentWindow parent;
+    CNames combo(parent);
+    combo.SetWindowText(L"typed text");
+    EXPECT_TRUE(combo.SetEditSel(2, 5));
+    EXPECT_EQ(static_cast<DWORD>(MAKELONG(2, 5)), combo.GetEditSel());
+    EXPECT_TRUE(combo.LimitText(20));
+    COMBOBOXINFO info = {};
+    info.cbSize = sizeof info;
+    EXPECT_TRUE(combo.GetComboBoxInfo(&info));
+    EXPECT_NE(nullptr, info.hwndItem);
+    EXPECT_FALSE(combo.GetComboBoxInfo(nullptr));
+    CNames list_only(parent, CBS_DROPDOWNLIST);
+    EXPECT_EQ(static_cast<DWORD>(CB_ERR), list_only.GetEditSel());
+}
+
+TEST(ComboBox, cut_copy_and_paste_reach_the_edit_field)
+{
+    CParentWindow parent;
+    CNames combo(parent);
+    combo.SetWindowText(L"abc");
+    combo.SetEditSel(0, 2);
+    combo.Copy();
+    combo.SetEditSel(3, 3);
+    combo.Paste();
+    CString text;
+    combo.GetWindowText(text);
+    EXPECT_EQ(L"abcab", plain(text));
+    combo.SetEditSel(0, 3);
+    combo.Cut();
+    combo.GetWindowText(text);
+    EXPECT_EQ(L"ab", plain(text));
+    combo.SetEditSel(0, 2);
+    combo.Clear();
+    combo.GetWindowText(text);
+    EXPECT_TRUE(text.IsEmpty());
+}
+
+TEST(ComboBox, drops_down)
+{
+    CParentWindow parent;
+    CNames combo(parent);
+    EXPECT_FALSE(combo.GetDroppedState());
+    combo.ShowDropDown();
+    EXPECT_TRUE(combo.GetDroppedState());
+    CRect list;
+    combo.GetDroppedControlRect(&list);
+    EXPECT_EQ(200, list.Width());
+    combo.ShowDropDown(FALSE);
+    EXPECT_FALSE(combo.GetDroppedState());
+    EXPECT_NE(CB_ERR, combo.SetDroppedWidth(300));
+    EXPECT_EQ(300, combo.GetDroppedWidth());
+    combo.GetDroppedControlRect(nullptr);
+    EXPECT_EQ(0, combo.SetExtendedUI());
+    EXPECT_TRUE(combo.GetExtendedUI());
+}
+
+TEST(ComboBox, settings_of_the_list)
+{
+    CParentWindow parent;
+    CNames combo(parent);
+    combo.SetHorizontalExtent(400);
+    EXPECT_EQ(400U, combo.GetHorizontalExtent());
+    combo.SetMinVisibleItems(7);
+    EXPECT_EQ(7, combo.GetMinVisible());
+    EXPECT_TRUE(combo.SetCueBanner(L"pick one"));
+    EXPECT_EQ(L"pick one", plain(combo.GetCueBanner()));
+    EXPECT_GT(combo.GetItemHeight(-1), 0);
+    EXPECT_EQ(0, combo.GetTopIndex());
+    EXPECT_NE(CB_ERR, combo.InitStorage(100, 1000));
+    EXPECT_NE(0U, combo.GetLocale());
+}
+
+TEST(ComboBox, owner_drawn_asks_its_class)
+{
+    CParentWindow parent;
+    CDrawnCombo combo;
+    ASSERT_TRUE(
+        combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE | CBS_SORT, place, &parent, 5));
+    combo.AddString(reinterpret_cast<LPCTSTR>(30));
+    combo.AddString(reinterpret_cast<LPCTSTR>(10));
+    combo.AddString(reinterpret_cast<LPCTSTR>(20));
+    EXPECT_EQ(10U, combo.GetItemData(0));
+    EXPECT_EQ(30U, combo.GetItemData(2));
+    EXPECT_GE(combo.measured, 3);
+    EXPECT_GE(combo.compared, 2);
+    EXPECT_EQ(22, combo.GetItemHeight(0));
+    combo.SetCurSel(0);
+    combo.ShowDropDown();
+    pumpFor(20);
+    combo.ShowDropDown(FALSE);
+    EXPECT_GE(combo.drawn, 1);
+    combo.ResetContent();
+    EXPECT_GE(combo.deleted, 3);
+}
+
+TEST(ComboBox, without_a_window_everything_is_zero)
+{
+    CComboBox combo;
+    EXPECT_EQ(0, combo.GetCount());
+    CString text(L"before");
+    combo.GetLBText(0, text);
+    EXPECT_TRUE(text.IsEmpty());
+}
+
+TEST(ComboBox, a_thousand_combos_leave_no_window_and_no_gdi_object)
+{
+    CParentWindow parent;
+    const auto cycle = [&] { CNames combo(parent); };
+    cycle();
+    const int windows = windowCount();
+    const int objects = gdiObjectCount();
+    for (int i = 0; i < 1000; ++i)
+        cycle();
+    EXPECT_EQ(windows, windowCount());
+    EXPECT_EQ(objects, gdiObjectCount());
+}
+
+TEST(ComboBoxEx, items_have_images_texts_and_data)
+{
+    CParentWindow parent;
+    CComboBoxEx combo;
+    ASSERT_TRUE(combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, place, &parent, 5));
+    CImageList images;
+    ASSERT_TRUE(images.Create(IDB_STRIP, 8, 1, RGB(255, 0, 255)));
+    EXPECT_EQ(nullptr, combo.SetImageList(&images));
+    EXPECT_EQ(&images, combo.GetImageList());
+    wchar_t text[] = L"first";
+    COMBOBOXEXITEM item = {};
+    item.mask = CBEIF_TEXT | CBEIF_IMAGE | CBEIF_LPARAM;
+    item.pszText = text;
+    item.iImage = 1;
+    item.lParam = 42;
+    EXPECT_EQ(0, combo.InsertItem(&item));
+    EXPECT_EQ(1, combo.GetCount());
+    wchar_t buffer[32] = {};
+    COMBOBOXEXITEM read = {};
+    read.mask = CBEIF_TEXT | CBEIF_IMAGE | CBEIF_LPARAM;
+    read.pszText = buffer;
+    read.cchTextMax = 32;
+    EXPECT_TRUE(combo.GetItem(&read));
+    EXPECT_STREQ(L"first", read.pszText);
+    EXPECT_EQ(1, read.iImage);
+    EXPECT_EQ(42, read.lParam);
+    EXPECT_NE(nullptr, combo.GetComboBoxCtrl());
+    EXPECT_NE(nullptr, combo.GetEditCtrl());
+    EXPECT_EQ(0, combo.DeleteItem(0));
+    EXPECT_EQ(-1, combo.InsertItem(nullptr));
+}
