@@ -1,5 +1,6 @@
 // Painting, showing, fonts, menus and carets of a window.
 #include <afxwin.h>
+#include <afxcmn.h>
 
 #include "kx/ImageList.h"
 #include "ThreadState.h"

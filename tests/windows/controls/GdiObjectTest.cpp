@@ -40,7 +40,7 @@ TEST(GdiObject, attach_refuses_null_and_a_second_handle)
 
 TEST(GdiObject, null_pointers_give_null_handles)
 {
-    CBrush* const none = nullptr;
+    CBrush* const none = nobody<CBrush>();
     EXPECT_EQ(nullptr, none->GetSafeHandle());
     EXPECT_EQ(nullptr, CGdiObject::FromHandle(nullptr));
     EXPECT_EQ(nullptr, CBrush::FromHandle(nullptr));

@@ -58,7 +58,7 @@ TEST(ImageList, ownership)
     EXPECT_TRUE(images.Attach(handle));
     EXPECT_TRUE(images.DeleteImageList());
     EXPECT_FALSE(images.DeleteImageList());
-    CImageList* const none = nullptr;
+    CImageList* const none = nobody<CImageList>();
     EXPECT_EQ(nullptr, none->GetSafeHandle());
 }
 

@@ -56,7 +56,7 @@ TEST(Menu, is_destroyed_with_its_owner_unless_detached)
 
 TEST(Menu, null_pointers_and_empty_objects)
 {
-    CMenu* const none = nullptr;
+    CMenu* const none = nobody<CMenu>();
     EXPECT_EQ(nullptr, none->GetSafeHmenu());
     EXPECT_EQ(nullptr, CMenu::FromHandle(nullptr));
     CMenu menu;

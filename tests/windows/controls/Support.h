@@ -61,6 +61,14 @@ constexpr COLORREF blue = 0x00FF0000;
 constexpr COLORREF black = 0x00000000;
 constexpr COLORREF white = 0x00FFFFFF;
 
+/// A null pointer that the compiler knows nothing of.
+template <class Object>
+Object* nobody()
+{
+    static Object* volatile none = nullptr;
+    return none;
+}
+
 inline std::wstring plain(const CString& text)
 {
     return std::wstring(static_cast<LPCTSTR>(text), static_cast<std::size_t>(text.GetLength()));
