@@ -1,6 +1,7 @@
 // Menus: attaching, loading, items.
 #include <afxwin.h>
 
+#include "ThreadState.h"
 #include "kx/HandleMap.h"
 
 namespace
@@ -17,6 +18,30 @@ kx::TemporaryObjects<CMenu>& temporaries()
     thread_local kx::TemporaryObjects<CMenu> all([](CMenu& menu) { menu.m_hMenu = nullptr; });
     return all;
 }
+
+/// While it lives, the thread knows which menu is shown for which window.
+class TrackedMenu
+{
+public:
+    TrackedMenu(HMENU menu, HWND window)
+    {
+        std::swap(m_menu, kxThread().trackedMenu);
+        std::swap(m_window, kxThread().trackingWnd);
+        kxThread().trackedMenu = menu;
+        kxThread().trackingWnd = window;
+    }
+    ~TrackedMenu()
+    {
+        kxThread().trackedMenu = m_menu;
+        kxThread().trackingWnd = m_window;
+    }
+    TrackedMenu(const TrackedMenu&) = delete;
+    TrackedMenu& operator=(const TrackedMenu&) = delete;
+
+private:
+    HMENU m_menu = nullptr;
+    HWND m_window = nullptr;
+};
 
 } // namespace
 
@@ -125,11 +150,13 @@ BOOL CMenu::DeleteMenu(UINT nPosition, UINT nFlags)
 
 BOOL CMenu::TrackPopupMenu(UINT nFlags, int x, int y, CWnd* pWnd, LPCRECT lpRect)
 {
+    const TrackedMenu tracked(m_hMenu, pWnd->GetSafeHwnd());
     return ::TrackPopupMenu(m_hMenu, nFlags, x, y, 0, pWnd->GetSafeHwnd(), lpRect);
 }
 
 BOOL CMenu::TrackPopupMenuEx(UINT fuFlags, int x, int y, CWnd* pWnd, LPTPMPARAMS lptpm)
 {
+    const TrackedMenu tracked(m_hMenu, pWnd->GetSafeHwnd());
     return ::TrackPopupMenuEx(m_hMenu, fuFlags, x, y, pWnd->GetSafeHwnd(), lptpm);
 }
 

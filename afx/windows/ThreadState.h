@@ -32,6 +32,10 @@ struct KxThreadState
     std::map<std::pair<HWND, std::type_index>, std::unique_ptr<CWnd>> temporary;
     int tempLocks = 0;
 
+    // the popup menu that CMenu::TrackPopupMenu shows
+    HMENU trackedMenu = nullptr;
+    HWND trackingWnd = nullptr;
+
     // tool tips
     HWND toolTip = nullptr;
     CWnd* toolTipOwner = nullptr;

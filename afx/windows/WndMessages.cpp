@@ -118,9 +118,39 @@ void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT item)
     Default();
 }
 
+namespace
+{
+/// The program's own menu that holds an item, looked for from a menu down; null where there is none.
+CMenu* menuWithItem(HMENU from, UINT id)
+{
+    for (int i = 0; i < ::GetMenuItemCount(from); ++i)
+    {
+        MENUITEMINFO info = {};
+        info.cbSize = sizeof info;
+        info.fMask = MIIM_ID | MIIM_SUBMENU;
+        if (!::GetMenuItemInfo(from, static_cast<UINT>(i), TRUE, &info))
+            continue;
+        if (info.wID == id)
+            return CMenu::FromHandlePermanent(from);
+        if (CMenu* below = info.hSubMenu != nullptr ? menuWithItem(info.hSubMenu, id) : nullptr)
+            return below;
+    }
+    return nullptr;
+}
+} // namespace
+
 void CWnd::OnMeasureItem(int, LPMEASUREITEMSTRUCT item)
 {
-    if (item->CtlType != ODT_MENU)
+    if (item->CtlType == ODT_MENU)
+    {
+        const HMENU from = kxThread().trackingWnd == m_hWnd ? kxThread().trackedMenu : ::GetMenu(m_hWnd);
+        if (CMenu* menu = menuWithItem(from, item->itemID))
+        {
+            menu->MeasureItem(item);
+            return;
+        }
+    }
+    else
     {
         CWnd* child = GetDescendantWindow(static_cast<int>(item->CtlID), TRUE);
         if (child != nullptr && child->SendChildNotifyLastMsg())

@@ -1,6 +1,7 @@
 // Combo boxes.
 #include "Support.h"
 #include "resource.h"
+#include "support/MessageRecorder.h"
 
 namespace
 {
@@ -105,11 +106,12 @@ TEST(ComboBox, the_edit_field)
     combo.SetWindowText(L"typed text");
     EXPECT_TRUE(combo.SetEditSel(2, 5));
     EXPECT_EQ(static_cast<DWORD>(MAKELONG(2, 5)), combo.GetEditSel());
-    EXPECT_TRUE(combo.LimitText(20));
     COMBOBOXINFO info = {};
     info.cbSize = sizeof info;
     EXPECT_TRUE(combo.GetComboBoxInfo(&info));
-    EXPECT_NE(nullptr, info.hwndItem);
+    ASSERT_NE(nullptr, info.hwndItem);
+    combo.LimitText(20);
+    EXPECT_EQ(20, ::SendMessageW(info.hwndItem, EM_GETLIMITTEXT, 0, 0));
     EXPECT_FALSE(combo.GetComboBoxInfo(nullptr));
     CNames list_only(parent, CBS_DROPDOWNLIST);
     EXPECT_EQ(static_cast<DWORD>(CB_ERR), list_only.GetEditSel());
@@ -164,8 +166,11 @@ TEST(ComboBox, settings_of_the_list)
     EXPECT_EQ(400U, combo.GetHorizontalExtent());
     combo.SetMinVisibleItems(7);
     EXPECT_EQ(7, combo.GetMinVisible());
-    EXPECT_TRUE(combo.SetCueBanner(L"pick one"));
-    EXPECT_EQ(L"pick one", plain(combo.GetCueBanner()));
+    const wchar_t* const cue = L"pick one";
+    MessageRecorder recorder(combo.m_hWnd);
+    combo.SetCueBanner(cue);
+    ASSERT_EQ(1, recorder.count(CB_SETCUEBANNER)) << "what comes of it is the platform's";
+    EXPECT_EQ(reinterpret_cast<LPARAM>(cue), recorder.all().back().lParam);
     EXPECT_GT(combo.GetItemHeight(-1), 0);
     EXPECT_EQ(0, combo.GetTopIndex());
     EXPECT_NE(CB_ERR, combo.InitStorage(100, 1000));

@@ -110,10 +110,11 @@ TEST(Edit, margins_rectangles_and_scrolling)
     CLines edit(parent, L"1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n7\r\n8\r\n9\r\n10\r\n11\r\n12");
     edit.SetMargins(4, 6);
     EXPECT_EQ(static_cast<DWORD>(MAKELONG(4, 6)), edit.GetMargins());
+    edit.SetMargins(0, 0);
     CRect inner;
     edit.SetRect(CRect(5, 5, 100, 60));
     edit.GetRect(&inner);
-    EXPECT_EQ(5, inner.left);
+    EXPECT_EQ(CRect(5, 5, 100, 60), inner);
     EXPECT_EQ(0, edit.GetFirstVisibleLine());
     edit.LineScroll(2);
     EXPECT_EQ(2, edit.GetFirstVisibleLine());

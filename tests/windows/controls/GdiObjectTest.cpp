@@ -340,7 +340,10 @@ TEST(Region, shapes_of_points_and_round_corners)
 TEST(Region, data_makes_the_same_region_again)
 {
     CRgn region;
-    ASSERT_TRUE(region.CreateEllipticRgn(0, 0, 30, 30));
+    CRgn corner;
+    ASSERT_TRUE(region.CreateRectRgn(0, 0, 30, 30));
+    ASSERT_TRUE(corner.CreateRectRgn(20, 20, 50, 50));
+    region.CombineRgn(&region, &corner, RGN_OR);
     const int size = region.GetRegionData(nullptr, 0);
     ASSERT_GT(size, 0);
     std::string data(static_cast<std::size_t>(size), '\0');

@@ -91,8 +91,9 @@ TEST(Menu, states_are_set_and_asked_for)
     EXPECT_EQ(static_cast<UINT>(-1), menu.EnableMenuItem(77, MF_BYCOMMAND));
     EXPECT_TRUE(menu.CheckMenuRadioItem(10, 30, 30, MF_BYCOMMAND));
     EXPECT_TRUE(menu.SetDefaultItem(30));
-    EXPECT_EQ(30U, menu.GetDefaultItem(0));
-    EXPECT_EQ(2U, menu.GetDefaultItem(0, TRUE));
+    EXPECT_EQ(30U, menu.GetDefaultItem(GMDI_USEDISABLED));
+    EXPECT_EQ(2U, menu.GetDefaultItem(GMDI_USEDISABLED, TRUE));
+    EXPECT_EQ(static_cast<UINT>(-1), menu.GetDefaultItem(0)) << "it is disabled";
 }
 
 TEST(Menu, item_records)
