@@ -128,7 +128,7 @@ BOOL CWnd::SubclassWindow(HWND wnd)
     if (before != AfxGetAfxWndProc())
     {
         WNDPROC* super = GetSuperWndProcAddr();
-        if (super != nullptr && *super == nullptr)
+        if (super != nullptr)
             *super = before;
     }
     return TRUE;

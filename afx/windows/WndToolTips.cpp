@@ -29,16 +29,13 @@ void freeText(const TOOLINFO& tool)
 
 void deleteTools(HWND tip)
 {
-    TOOLINFO tool = {};
-    tool.cbSize = TTTOOLINFOW_V2_SIZE;
-    wchar_t text[256];
-    tool.lpszText = text;
-    while (::SendMessage(tip, TTM_ENUMTOOLS, 0, reinterpret_cast<LPARAM>(&tool)))
+    for (;;)
     {
-        ::SendMessage(tip, TTM_DELTOOL, 0, reinterpret_cast<LPARAM>(&tool));
-        tool = {};
+        TOOLINFO tool = {}; // no buffer for the text, which may be of any length
         tool.cbSize = TTTOOLINFOW_V2_SIZE;
-        tool.lpszText = text;
+        if (!::SendMessage(tip, TTM_ENUMTOOLS, 0, reinterpret_cast<LPARAM>(&tool)))
+            return;
+        ::SendMessage(tip, TTM_DELTOOL, 0, reinterpret_cast<LPARAM>(&tool));
     }
 }
 

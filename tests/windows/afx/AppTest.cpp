@@ -238,18 +238,8 @@ TEST(Frame, accelerator_key_becomes_its_command)
     frame->ShowWindow(SW_SHOW);
     frame->SetForegroundWindow();
     const MainWnd main(frame);
-    INPUT keys[4] = {};
-    for (INPUT& input : keys)
-        input.type = INPUT_KEYBOARD;
-    keys[0].ki.wVk = keys[3].ki.wVk = VK_CONTROL;
-    keys[1].ki.wVk = keys[2].ki.wVk = 'K';
-    keys[2].ki.dwFlags = keys[3].ki.dwFlags = KEYEVENTF_KEYUP;
-    ::SendInput(4, keys, sizeof(INPUT));
-    for (int i = 0; i < 200 && frame->wasDone == 0; ++i)
-    {
-        ::PostMessage(frame->m_hWnd, WM_NULL, 0, 0);
-        AfxPumpMessage();
-    }
+    press('K', VK_CONTROL);
+    EXPECT_TRUE(pumpUntil([&] { return frame->wasDone != 0; }));
     EXPECT_EQ(frame->wasDone, 1);
     AfxGetApp()->m_pMainWnd = nullptr;
     frame->DestroyWindow();

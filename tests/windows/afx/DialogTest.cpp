@@ -2,7 +2,6 @@
 #include "Fixture.h"
 #include "ids.h"
 #include "support/AnswerModal.h"
-#include "support/RealInput.h"
 
 #include <functional>
 
@@ -37,6 +36,7 @@ public:
             onInit();
         if (onTimer)
             SetTimer(1, 10, nullptr);
+        SetTimer(2, 20000, nullptr); // so that a test that fails does not hang
         return result;
     }
 
@@ -76,7 +76,9 @@ protected:
     afx_msg void OnTimer(UINT_PTR id)
     {
         KillTimer(id);
-        if (onTimer)
+        if (id == 2)
+            EndDialog(-99);
+        else if (onTimer)
             onTimer();
     }
     afx_msg void OnTextChanged() { log.push_back(L"changed"); }
@@ -109,8 +111,9 @@ TEST(ModalDialog, return_key_ends_it_with_ok_and_the_typed_text)
     CData dialog;
     dialog.onTimer = []
     {
-        typeText(L"abc");
-        key(VK_RETURN);
+        for (const WORD letter : {'A', 'B', 'C'})
+            press(letter);
+        press(VK_RETURN);
     };
     EXPECT_EQ(dialog.DoModal(), IDOK);
     EXPECT_EQ(dialog.text, L"abc");
@@ -122,8 +125,9 @@ TEST(ModalDialog, escape_key_ends_it_with_cancel_and_keeps_the_variables)
     CData dialog;
     dialog.onTimer = []
     {
-        typeText(L"abc");
-        key(VK_ESCAPE);
+        for (const WORD letter : {'A', 'B', 'C'})
+            press(letter);
+        press(VK_ESCAPE);
     };
     EXPECT_EQ(dialog.DoModal(), IDCANCEL);
     EXPECT_EQ(dialog.text, L"12");
@@ -137,15 +141,22 @@ TEST(ModalDialog, tab_key_moves_the_focus)
     HWND second = nullptr;
     dialog.onTimer = [&]
     {
-        first = ::GetFocus();
-        key(VK_TAB);
-        second = ::GetFocus();
-        key(VK_ESCAPE);
+        if (first == nullptr)
+        {
+            first = ::GetFocus();
+            press(VK_TAB);
+        }
+        else if (::GetFocus() != first)
+        {
+            second = ::GetFocus();
+            press(VK_ESCAPE);
+            return;
+        }
+        dialog.SetTimer(1, 10, nullptr);
     };
-    dialog.onInit = [&] { EXPECT_EQ(dialog.log.front(), L"init"); };
     EXPECT_EQ(dialog.DoModal(), IDCANCEL);
     EXPECT_NE(first, nullptr);
-    EXPECT_NE(second, first);
+    EXPECT_NE(second, nullptr);
 }
 
 TEST(ModalDialog, ending_in_the_first_moment_never_shows_it)
@@ -210,7 +221,7 @@ TEST(ModalDialog, escape_leaves_a_multiline_edit_without_a_cancel_button)
                      [](HWND wnd, UINT, UINT_PTR id, DWORD)
                      {
                          ::KillTimer(wnd, id);
-                         key(VK_ESCAPE);
+                         press(VK_ESCAPE);
                      });
             return CDialog::OnInitDialog();
         }

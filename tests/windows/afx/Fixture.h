@@ -57,3 +57,37 @@ inline LRESULT notifyHeader(CWnd& parent, CWnd& control, UINT code)
     NMHDR header = {control.m_hWnd, static_cast<UINT_PTR>(control.GetDlgCtrlID()), code};
     return parent.SendMessage(WM_NOTIFY, header.idFrom, reinterpret_cast<LPARAM>(&header));
 }
+
+/// Puts a key stroke into the input queue and pumps nothing: the loop under test is to take it.
+inline void press(WORD code, WORD modifier = 0)
+{
+    INPUT inputs[4] = {};
+    const WORD codes[4] = {modifier, code, code, modifier};
+    for (int i = 0; i < 4; ++i)
+    {
+        inputs[i].type = INPUT_KEYBOARD;
+        inputs[i].ki.wVk = codes[i];
+        inputs[i].ki.dwFlags = i < 2 ? 0 : KEYEVENTF_KEYUP;
+    }
+    if (modifier != 0)
+        ::SendInput(4, inputs, sizeof(INPUT));
+    else
+        ::SendInput(2, inputs + 1, sizeof(INPUT));
+}
+
+/// Runs the framework's pump until `done` holds or the queue has been empty for a while.
+template <class Condition> bool pumpUntil(Condition done)
+{
+    for (int quiet = 0; quiet < 200 && !done();)
+    {
+        MSG message;
+        if (::PeekMessage(&message, nullptr, 0, 0, PM_NOREMOVE))
+        {
+            AfxPumpMessage();
+            continue;
+        }
+        ++quiet;
+        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
+    }
+    return done();
+}

@@ -130,7 +130,7 @@ TEST(Modules, state_is_managed_by_the_block)
         EXPECT_EQ(AfxGetModuleState(), &mine);
         EXPECT_EQ(AfxGetResourceHandle(), ::GetModuleHandleW(L"user32.dll"));
         {
-            AFX_MANAGE_STATE(AfxGetAppModuleState())
+            const AFX_MAINTAIN_STATE2 inner(AfxGetAppModuleState());
             EXPECT_EQ(AfxGetResourceHandle(), self());
         }
         EXPECT_EQ(AfxGetModuleState(), &mine);
