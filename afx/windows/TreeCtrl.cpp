@@ -304,8 +304,9 @@ BOOL CTreeCtrl::GetItemRect(HTREEITEM hItem, LPRECT lpRect, BOOL bTextOnly) cons
 {
     if (lpRect == nullptr || hItem == nullptr)
         return FALSE;
-    static_assert(sizeof(RECT) >= sizeof(HTREEITEM));
-    ::memcpy(lpRect, &hItem, sizeof hItem);
+    const auto item = reinterpret_cast<UINT_PTR>(hItem); // travels in the rectangle's first bytes
+    static_assert(sizeof(RECT) >= sizeof item);
+    ::memcpy(lpRect, &item, sizeof item);
     return ask<BOOL>(m_hWnd, TVM_GETITEMRECT, bTextOnly, lpRect);
 }
 
