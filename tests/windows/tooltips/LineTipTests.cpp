@@ -349,7 +349,7 @@ TEST_F(LineTip, takes_odd_times_heights_and_points)
     }
 }
 
-TEST_F(LineTip, two_thousand_shows_and_paints_leave_no_object_behind)
+TEST_F(LineTip, five_hundred_shows_and_paints_leave_no_object_behind)
 {
     create(L"Length <1.5 m>");
     const auto cycle = [this]
@@ -360,14 +360,14 @@ TEST_F(LineTip, two_thousand_shows_and_paints_leave_no_object_behind)
     };
     cycle();
     const int objects = gdiObjectCount();
-    for (int i = 0; i < 2000; ++i)
+    for (int i = 0; i < 500; ++i)
     {
         cycle();
     }
     EXPECT_EQ(objects, gdiObjectCount());
 }
 
-TEST(LineTipLife, five_hundred_tips_leave_no_object_behind)
+TEST(LineTipLife, two_hundred_tips_leave_no_object_behind)
 {
     TipHost host;
     const auto cycle = [&host]
@@ -381,7 +381,7 @@ TEST(LineTipLife, five_hundred_tips_leave_no_object_behind)
     cycle();
     const int objects = gdiObjectCount();
     const int windows = windowCount();
-    for (int i = 0; i < 500; ++i)
+    for (int i = 0; i < 200; ++i)
     {
         cycle();
     }
