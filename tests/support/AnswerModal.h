@@ -2,6 +2,7 @@
 #pragma once
 #include <windows.h>
 #include <string>
+#include <vector>
 
 class AnswerModal
 {
@@ -10,6 +11,7 @@ public:
     {
         s_id = id;
         s_seen.clear();
+        s_created.clear();
         m_hook = SetWindowsHookExW(WH_CBT, onCbt, nullptr, GetCurrentThreadId());
     }
     ~AnswerModal() { UnhookWindowsHookEx(m_hook); }
@@ -22,8 +24,12 @@ public:
 private:
     static LRESULT CALLBACK onCbt(int code, WPARAM wParam, LPARAM lParam)
     {
-        if (code == HCBT_ACTIVATE)
-            answer(reinterpret_cast<HWND>(wParam));
+        const auto window = reinterpret_cast<HWND>(wParam);
+        if (code == HCBT_CREATEWND)
+            s_created.push_back(window);
+        // Only a new window is answered, and once: an older dialog is activated again when a box over it closes.
+        else if (code == HCBT_ACTIVATE && std::erase(s_created, window) != 0)
+            answer(window);
         return CallNextHookEx(nullptr, code, wParam, lParam);
     }
     static void answer(HWND window)
@@ -42,4 +48,5 @@ private:
     HHOOK m_hook;
     inline static int s_id = 0;
     inline static std::wstring s_seen;
+    inline static std::vector<HWND> s_created;
 };

@@ -15,7 +15,10 @@ class OXA_API CKxGroup : public CObject
 public:
     /// The longest text to which CKxFormat lets a group grow; an operation that would pass it throws CMemoryException
     /// and changes nothing.
-    static constexpr int MaxTextLength = 16777216;
+    enum : int
+    {
+        MaxTextLength = 16777216
+    };
 
     /// A group that stands from position start to position end, both inclusive. maxCount is the fixed number of
     /// characters, or -1 for a group of open length. minCount is kept and read by nothing. Nothing is checked.
