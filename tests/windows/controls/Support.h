@@ -62,8 +62,7 @@ constexpr COLORREF black = 0x00000000;
 constexpr COLORREF white = 0x00FFFFFF;
 
 /// A null pointer that the compiler knows nothing of.
-template <class Object>
-Object* nobody()
+template <class Object> Object* nobody()
 {
     static Object* volatile none = nullptr;
     return none;
