@@ -155,7 +155,8 @@ void CKxFormat::InsertRun(long long first, long long last, const wchar_t* charac
 
 void CKxFormat::SetString(CString& text)
 {
-    const CString characters = text;
+    // A copy: the text may be that of one of the groups.
+    const CString characters = text; // NOLINT(performance-unnecessary-copy-initialization)
     InsertRun(0, characters.GetLength() - 1LL, characters.GetString());
 }
 

@@ -4,7 +4,6 @@
 
 namespace
 {
-using reference::Element;
 using reference::Format;
 
 /// Calls visit with every text of up to `longest` characters of `alphabet`.

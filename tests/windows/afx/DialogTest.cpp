@@ -75,11 +75,22 @@ protected:
     }
     afx_msg void OnTimer(UINT_PTR id)
     {
+        if (id == 1 && !isReadyForKeys())
+            return; // the next tick comes
         KillTimer(id);
         if (id == 2)
             EndDialog(-99);
         else if (onTimer)
             onTimer();
+    }
+    bool isReadyForKeys()
+    {
+        if (!IsWindowVisible())
+            return false;
+        if (::GetForegroundWindow() == m_hWnd)
+            return true;
+        SetForegroundWindow();
+        return false;
     }
     afx_msg void OnTextChanged() { log.push_back(L"changed"); }
     DECLARE_MESSAGE_MAP()
