@@ -88,7 +88,7 @@ TEST(DcText, draw_text_never_changes_a_string)
 {
     TextCanvas canvas;
     const CString text(L"a text that is much too long for the place");
-    const CString copy = text;
+    const CString copy = text; // NOLINT(performance-unnecessary-copy-initialization): shares the buffer
     CRect box(0, 0, 60, 20);
     canvas.dc.DrawText(text, &box, DT_SINGLELINE | DT_END_ELLIPSIS | DT_MODIFYSTRING);
     DRAWTEXTPARAMS parameters = {sizeof parameters, 4, 0, 0, 0};
