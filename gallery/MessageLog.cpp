@@ -39,7 +39,7 @@ bool CMessageLog::writeTo(const CString& file)
     return m_file != INVALID_HANDLE_VALUE;
 }
 
-void CMessageLog::record(HWND, UINT message, WPARAM wParam, LPARAM lParam)
+void CMessageLog::record(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (isControlMessage(message, lParam))
         append(nameOfControlMessage(message, wParam, lParam), message, wParam, lParam);

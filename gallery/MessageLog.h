@@ -9,7 +9,7 @@ public:
     /// Adds the columns; call once when the window exists.
     void prepare();
     /// Adds a line when the message is one that controls send their parent.
-    void record(HWND receiver, UINT message, WPARAM wParam, LPARAM lParam);
+    void record(UINT message, WPARAM wParam, LPARAM lParam);
     /// Also writes each line to a file, for runs without a display. The folder must exist.
     bool writeTo(const CString& file);
     ~CMessageLog() override;

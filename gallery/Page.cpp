@@ -11,7 +11,7 @@ bool CPage::createIn(CWnd* parent, CMessageLog* log)
 LRESULT CPage::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (m_log)
-        m_log->record(m_hWnd, message, wParam, lParam);
+        m_log->record(message, wParam, lParam);
     return CDialog::WindowProc(message, wParam, lParam);
 }
 
