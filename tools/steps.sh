@@ -70,7 +70,7 @@ configure_and_build() { # PRESET [TARGET...]
     fi
 }
 
-sources() { find afx siblings include frame formats units tooltips resources gallery tests tools fuzz bench docs \( -name '*.cpp' -o -name '*.h' \) | sort; }
+sources() { find afx siblings include frame formats units tooltips images resources gallery tests tools fuzz bench docs \( -name '*.cpp' -o -name '*.h' \) | sort; }
 check_format() { sources | grep -v '/resource\.h$' | xargs clang-format-14 --dry-run -Werror; }
 
 wine_prefix() { tools/wine-base "$PWD/build/wine/base"; }
