@@ -51,11 +51,53 @@ private:
     const CComboBox& m_reader;
 };
 
+/// A message on its way from a control to another window, for as long as this object lives. The receiver may send it
+/// back, by a circle of owners or from its handler; the control does not pass it on again meanwhile.
+class Sending
+{
+public:
+    Sending(HWND control, UINT message, WPARAM wParam, LPARAM lParam)
+        : m_control(control), m_message(message), m_wParam(wParam), m_lParam(lParam), m_outer(s_innermost)
+    {
+        s_innermost = this;
+    }
+    ~Sending() { s_innermost = m_outer; }
+    Sending(const Sending&) = delete;
+    Sending& operator=(const Sending&) = delete;
+
+    bool IsRepeated() const
+    {
+        const Sending* one = m_outer;
+        while (one != nullptr && !IsSameAs(*one))
+        {
+            one = one->m_outer;
+        }
+        return one != nullptr;
+    }
+
+private:
+    bool IsSameAs(const Sending& other) const
+    {
+        return m_control == other.m_control && m_message == other.m_message && m_wParam == other.m_wParam &&
+               m_lParam == other.m_lParam;
+    }
+
+    HWND m_control;
+    UINT m_message;
+    WPARAM m_wParam;
+    LPARAM m_lParam;
+    const Sending* m_outer;
+    static thread_local const Sending* s_innermost;
+};
+
+thread_local const Sending* Sending::s_innermost = nullptr;
+
 /// Sends a message to another window; false when the control did not survive that, and must not be touched any more.
 bool SendAndSurvive(const CWnd& control, CWnd* receiver, UINT message, WPARAM wParam, LPARAM lParam)
 {
     const HWND window = control.m_hWnd;
-    if (receiver == nullptr || window == nullptr)
+    const Sending sending(window, message, wParam, lParam);
+    if (receiver == nullptr || window == nullptr || sending.IsRepeated())
     {
         return true;
     }
@@ -255,12 +297,7 @@ bool CKxComboBoxUnit::TellFocus()
 
 bool CKxComboBoxUnit::SendToOwner(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    CWnd* const owner = GetOwner();
-    if (owner == this)
-    {
-        return true; // it would get its own message again without end
-    }
-    return SendAndSurvive(*this, owner, message, wParam, lParam);
+    return SendAndSurvive(*this, GetOwner(), message, wParam, lParam);
 }
 
 BOOL CKxComboBoxUnit::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)

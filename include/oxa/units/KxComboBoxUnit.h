@@ -45,7 +45,7 @@ struct Fields;
 /// not search the list. The owner is the window set by `SetOwner`, else the parent.
 ///
 /// Messages to the parent: `WM_KX_UNIT_FOCUS`, `WM_KX_UNIT_VALIDATED`. The parent may destroy the control while it
-/// handles them.
+/// handles them. What it does to the control meanwhile (a commit, a new focus) does not send it the same message again.
 ///
 ///     CKxUnit metre(1, 0, 3, L'.', 1.0, 1);
 ///     m_length.SubclassDlgItem(IDC_LENGTH, this);
