@@ -29,18 +29,14 @@ public:
     {
         CString text;
         if (HasWindow())
-        {
             m_reader.GetWindowText(text);
-        }
         return text;
     }
     CString GetItemText(int index) const
     {
         CString text;
         if (HasWindow())
-        {
             m_reader.GetLBText(index, text);
-        }
         return text;
     }
 
@@ -69,9 +65,7 @@ public:
     {
         const Sending* one = m_outer;
         while (one != nullptr && !IsSameAs(*one))
-        {
             one = one->m_outer;
-        }
         return one != nullptr;
     }
 
@@ -98,9 +92,7 @@ bool SendAndSurvive(const CWnd& control, CWnd* receiver, UINT message, WPARAM wP
     const HWND window = control.m_hWnd;
     const Sending sending(window, message, wParam, lParam);
     if (receiver == nullptr || window == nullptr || sending.IsRepeated())
-    {
         return true;
-    }
     receiver->SendMessage(message, wParam, lParam);
     return CWnd::FromHandlePermanent(window) == &control;
 }
@@ -124,16 +116,12 @@ public:
     void ResetContent()
     {
         if (HasWindow())
-        {
             m_combo.ResetContent();
-        }
     }
     void SetCurSel(int index)
     {
         if (HasWindow())
-        {
             m_combo.SetCurSel(index);
-        }
     }
     bool TellValidated() { return SendAndSurvive(m_combo, ParentOf(m_combo), WM_KX_UNIT_VALIDATED, 0, 0); }
 
@@ -172,9 +160,7 @@ CKxComboBoxUnit::~CKxComboBoxUnit()
 {
     CWnd* const child = ::IsWindow(m_hWnd) ? GetWindow(GW_CHILD) : nullptr;
     if (child != nullptr && m_toolTip.m_hWnd != nullptr)
-    {
         m_toolTip.DelTool(child);
-    }
     delete m_pUnit;
     m_pUnit = nullptr;
 }
@@ -283,9 +269,7 @@ void CKxComboBoxUnit::SetVisibility(int visibility)
 void CKxComboBoxUnit::AddFormatToolTip(CString text)
 {
     if (m_hWnd != nullptr && m_toolTip.m_hWnd != nullptr)
-    {
         m_toolTip.AddWindowTool(this, text);
-    }
 }
 
 // ---- Messages
@@ -303,9 +287,7 @@ bool CKxComboBoxUnit::SendToOwner(UINT message, WPARAM wParam, LPARAM lParam)
 BOOL CKxComboBoxUnit::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
     if (message != WM_COMMAND)
-    {
         return CComboBox::OnChildNotify(message, wParam, lParam, pResult);
-    }
     const HWND window = m_hWnd;
     switch (HIWORD(wParam))
     {
@@ -354,24 +336,18 @@ void CKxComboBoxUnit::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
 void CKxComboBoxUnit::OnLButtonDown(UINT nFlags, CPoint point)
 {
     if (point.x == 0 && point.y == 0 && !SendToOwner(WM_LBUTTONDOWN, nFlags, MAKELPARAM(point.x, point.y)))
-    {
         return;
-    }
     CComboBox::OnLButtonDown(nFlags, point);
 }
 
 void CKxComboBoxUnit::OnSetFocus(CWnd* pOldWnd)
 {
     if (TellFocus())
-    {
         CComboBox::OnSetFocus(pOldWnd);
-    }
 }
 
 void CKxComboBoxUnit::OnParentNotify(UINT message, LPARAM lParam)
 {
     if (LOWORD(message) != WM_LBUTTONDOWN || TellFocus())
-    {
         CComboBox::OnParentNotify(message, lParam);
-    }
 }

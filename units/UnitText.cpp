@@ -26,9 +26,7 @@ bool UnitText::MayBeNumber(const CString& text)
 {
     const std::wstring_view view = ViewOf(text);
     if (!HasDigit(view) || firstCharacters.find(view.front()) == std::wstring_view::npos)
-    {
         return false;
-    }
     // "+." is not among them, on purpose: "+.x5" is left to the unit, "-.x5" is refused.
     const bool signThenSeparator = view.starts_with(L"-,") || view.starts_with(L"+,") || view.starts_with(L"-.");
     // Nothing is asked of the characters behind a sign alone, on purpose: "+abc5" may be a number.

@@ -81,9 +81,7 @@ inline bool IsIndexBelow(int index, std::size_t size)
 template <ListReader List> int ValueAt(const List& list, const std::vector<double>& values, int index, double& value)
 {
     if (index < 0 || index >= list.GetCount() || !IsIndexBelow(index, values.size()))
-    {
         return 0;
-    }
     value = values[static_cast<std::size_t>(index)];
     return 1;
 }
@@ -104,9 +102,7 @@ template <ListReader List> int FindValue(const List& list, const CKxUnit* unit, 
 template <ListBox List> void AddValue(List& list, const Fields& fields, double value)
 {
     if (fields.unit == nullptr)
-    {
         return;
-    }
     if (list.AddString(UnitText::Canonical(*fields.unit, value)) != listError)
     {
         fields.values.push_back(value);
@@ -117,9 +113,7 @@ template <ListBox List> void AddValue(List& list, const Fields& fields, double v
 template <ListBox List> int AddText(List& list, const Fields& fields, const wchar_t* text)
 {
     if (fields.unit == nullptr)
-    {
         return listError;
-    }
     const wchar_t* const shown = text == nullptr ? L"" : text;
     const int index = list.AddString(shown);
     if (index >= 0)
@@ -133,9 +127,7 @@ template <ListBox List> int AddText(List& list, const Fields& fields, const wcha
 template <ListBox List> int InsertText(List& list, const Fields& fields, int index, const wchar_t* text)
 {
     if (fields.unit == nullptr)
-    {
         return listError;
-    }
     const wchar_t* const shown = text == nullptr ? L"" : text;
     const int inserted = list.InsertString(index, shown);
     // -1 asks the list for the end: the values follow it there.
@@ -175,16 +167,12 @@ template <ListBox List> int FindOrAddTyped(List& list, const Fields& fields, dou
     {
         // A permanent item keeps its text and its flag, and takes the fresh value.
         if (IsIndexBelow(index, fields.values.size()))
-        {
             fields.values[static_cast<std::size_t>(index)] = value;
-        }
         return index;
     }
     index = AddText(list, fields, UnitText::Canonical(*fields.unit, value));
     if (IsIndexBelow(index, fields.permanent.size()))
-    {
         fields.permanent[static_cast<std::size_t>(index)] = false;
-    }
     return index;
 }
 
@@ -195,13 +183,9 @@ template <ListBox List> void SweepTyped(List& list, const Fields& fields, int se
     {
         const bool typed = IsIndexBelow(i, fields.permanent.size()) && !fields.permanent[static_cast<std::size_t>(i)];
         if (!typed || i == selected || Delete(list, fields, static_cast<unsigned int>(i)) < 0)
-        {
             continue;
-        }
         if (selected > i)
-        {
             --selected;
-        }
         --i;
     }
 }
@@ -210,9 +194,7 @@ template <ListBox List> void SweepTyped(List& list, const Fields& fields, int se
 template <ListBox List> void Commit(List& list, const Fields& fields)
 {
     if (fields.unit == nullptr)
-    {
         return;
-    }
     fields.editChanged = 0;
     CString text = list.GetEditText();
     if (UnitText::MayBeNumber(text))
@@ -220,9 +202,7 @@ template <ListBox List> void Commit(List& list, const Fields& fields)
         fields.variant = false;
         // The parent hears of it before the list changes, and may end the control or take its values away meanwhile.
         if (!list.TellValidated() || fields.unit == nullptr)
-        {
             return;
-        }
     }
     else
     {
@@ -239,9 +219,7 @@ template <ListReader List> void TakeSelection(const List& list, const Fields& fi
     fields.editChanged = 0;
     const int selected = list.GetCurSel();
     if (fields.unit != nullptr && IsIndexBelow(selected, fields.values.size()))
-    {
         fields.values[static_cast<std::size_t>(selected)] = UnitText::Read(*fields.unit, list.GetItemText(selected));
-    }
 }
 
 } // namespace unitvalues

@@ -1,5 +1,6 @@
 // Creation and destruction of the unit combo box leave nothing behind.
 #include <gtest/gtest.h>
+#include <ostream>
 #include "UnitHost.h"
 #include "support/LeakCounters.h"
 
@@ -7,32 +8,72 @@ namespace
 {
 constexpr DWORD style = WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWN;
 
-void useOnce(CWnd& parent, int round)
+/// How many handles of each kind there are.
+struct Handles
 {
-    CKxComboBoxUnit combo;
+    int windows = windowCount(), objects = gdiObjectCount(), kernel = kernelHandleCount(), others = menuAndIconCount();
+    bool operator==(const Handles&) const = default;
+};
+
+std::ostream& operator<<(std::ostream& out, const Handles& handles)
+{
+    return out << handles.windows << " windows, " << handles.objects << " drawing objects, " << handles.kernel
+               << " kernel handles, " << handles.others << " menus and icons";
+}
+
+void setAndCommit(CKxComboBoxUnit& combo, CWnd& parent, int round)
+{
     combo.Create(style, CRect(0, 0, 80, 100), &parent, 4000);
     CKxUnit unit = MetreUnit();
     combo.SetDefaultValues(&parent, 4000, 0.0, unit, 0.0, 0.0);
+    combo.SetDefaultValues(&parent, 4000, 0.0, *combo.GetUnit(), 0.0, 0.0);
     combo.AddValueSI(1.0 + round);
     combo.SetWindowText(L"1.5");
     combo.UpdateControlValue();
     combo.AddFormatToolTip(L"tip");
+}
+
+void useOnce(CWnd& parent, int round)
+{
+    CKxComboBoxUnit combo;
+    setAndCommit(combo, parent, round);
     if (round % 2 == 0)
         combo.DestroyWindow(); // else the destructor does it
 }
 
-TEST(UnitComboLifetime, a_thousand_controls_leave_no_window_and_no_drawing_object)
+void useByUser(CWnd& parent, int round)
+{
+    CKxComboBoxUnit combo;
+    setAndCommit(combo, parent, round);
+    combo.SetFocus();
+    combo.UpdateWindow();
+    combo.ShowDropDown(TRUE);
+    UnitHost::type(L"2");
+    if (round % 2 == 0)
+        combo.ShowDropDown(FALSE); // else it is open when it ends
+}
+
+void expectNoTrace(void (*use)(CWnd& parent, int round), int rounds)
 {
     UnitHost host;
     for (int i = 0; i < 10; ++i)
-        useOnce(host, i);
-    host.pump();
-    const int windows = windowCount(), objects = gdiObjectCount();
-    for (int i = 0; i < 1000; ++i)
-        useOnce(host, i);
-    host.pump();
-    EXPECT_EQ(windowCount(), windows);
-    EXPECT_EQ(gdiObjectCount(), objects);
+        use(host, i);
+    UnitHost::pump(50);
+    const Handles before;
+    for (int i = 0; i < rounds; ++i)
+        use(host, i);
+    UnitHost::pump(50);
+    EXPECT_EQ(Handles(), before);
+}
+
+TEST(UnitComboLifetime, a_thousand_controls_leave_no_handle)
+{
+    expectNoTrace(useOnce, 1000);
+}
+
+TEST(UnitComboLifetime, controls_that_end_with_focus_and_open_list_leave_no_handle)
+{
+    expectNoTrace(useByUser, 50);
 }
 
 TEST(UnitComboLifetime, a_control_that_never_got_a_window_leaves_nothing)
@@ -47,6 +88,22 @@ TEST(UnitComboLifetime, a_control_that_never_got_a_window_leaves_nothing)
     }
     EXPECT_EQ(windowCount(), windows);
     EXPECT_EQ(gdiObjectCount(), objects);
+}
+
+TEST(UnitComboLifetime, the_counters_see_handles_that_were_planted)
+{
+    const int handles = kernelHandleCount(), others = menuAndIconCount();
+    std::vector<HANDLE> events;
+    for (int i = 0; i < 100; ++i)
+        events.push_back(::CreateEventW(nullptr, FALSE, FALSE, nullptr));
+    const HMENU menu = ::CreatePopupMenu();
+    EXPECT_EQ(kernelHandleCount(), handles + 100);
+    EXPECT_EQ(menuAndIconCount(), others + 1);
+    for (const HANDLE one : events)
+        ::CloseHandle(one);
+    ::DestroyMenu(menu);
+    EXPECT_EQ(kernelHandleCount(), handles);
+    EXPECT_EQ(menuAndIconCount(), others);
 }
 
 TEST(UnitComboLifetime, the_counters_see_a_control_that_lives)
