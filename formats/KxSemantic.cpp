@@ -1,6 +1,7 @@
 // Reading a format string into nodes.
 #include "oxa/formats/KxSemantic.h"
 
+#include <algorithm>
 #include "CharacterClasses.h"
 #include "TextToInteger.h"
 #include "oxa/formats/KxSemanticNode.h"
@@ -176,8 +177,10 @@ void CKxSemantic::PlanSteps()
             classes = CharacterClasses::LetterButX;
         else if (text == L"N")
             classes = CharacterClasses::Digit | CharacterClasses::FeetAndInches;
-        m_steps.push_back({text.GetString(), text.GetLength(), node->GetCount(), node->GetKind()[0], classes, text[0],
-                           text[text.GetLength() - 1]});
+        const wchar_t kind = node->GetKind()[0];
+        const std::ptrdiff_t room = kind == L'x' ? Step::anyNumber : std::max(node->GetCount(), 0);
+        m_steps.push_back({text.GetString(), text.GetLength(), node->GetCount(), kind, classes, text[0],
+                           text[text.GetLength() - 1], room});
         m_takesPrecisionMarks = m_takesPrecisionMarks || TakesPrecisionMarks(m_steps.back());
     }
 }

@@ -3,8 +3,12 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <kx/CaseFold.h>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace reference
@@ -23,18 +27,21 @@ inline bool contains(const std::wstring& list, wchar_t ch)
     return list.find(ch) != std::wstring::npos;
 }
 
-/// Plain ASCII judgement of a type; tests with other characters say so themselves.
-inline bool ofType(const std::wstring& type, wchar_t ch)
+/// Whether a type lets a character pass; in architectural mode the signs of feet and inches are digits.
+inline bool ofType(const std::wstring& type, wchar_t ch, bool architectural = false)
 {
     const bool digit = ch >= L'0' && ch <= L'9';
     const bool letter = (ch >= L'a' && ch <= L'z') || (ch >= L'A' && ch <= L'Z');
     if (type == L"N")
-        return digit;
-    if (type == L"C")
-        return letter && ch != L'x';
-    if (type == L"A")
-        return digit || letter || contains(L"./-+*_()'\\:;!?,%&#{[|`@]=}$ ", ch);
-    return ch >= type.front() && ch <= type.back();
+        return digit || (architectural && contains(L"'\"-", ch));
+    if (type == L"C") // à é è ç ù ê ô ï î
+        return (letter && ch != L'x') || contains(L"\u00e0\u00e9\u00e8\u00e7\u00f9\u00ea\u00f4\u00ef\u00ee", ch);
+    if (type == L"A") // then â ä ë ö û ü ² £ µ ° ø
+        return digit || letter || contains(L"\u00e0\u00e9\u00e8\u00e7\u00f9\u00ea\u00f4\u00ef\u00ee", ch) ||
+               contains(L"\u00e2\u00e4\u00eb\u00f6\u00fb\u00fc\u00b2\u00a3\u00b5\u00b0\u00f8", ch) ||
+               contains(L"./-+*_()'\\:;!?,%&#{[|`@]=}$ ", ch);
+    const auto code = [](wchar_t any) { return static_cast<std::uint32_t>(any); };
+    return code(ch) >= code(type.front()) && code(ch) <= code(type.back());
 }
 
 /// The format string that says the same.
@@ -72,11 +79,15 @@ inline bool accepts(const Format& format, const std::wstring& text, std::size_t 
     }
 }
 
-/// The documented steps of the judgement, read off one by one, without architectural numbers.
+/// The documented steps of the judgement, read off one by one. In architectural mode isNumber judges feet and inches.
 class StepJudge
 {
 public:
-    explicit StepJudge(const Format& format) : m_format(format) {}
+    using IsNumber = std::function<bool(const std::wstring&)>;
+
+    explicit StepJudge(const Format& format, IsNumber isNumber = {}) : m_format(format), m_isNumber(std::move(isNumber))
+    {
+    }
 
     bool judge(const std::wstring& text)
     {
@@ -88,10 +99,15 @@ public:
         m_kind = m_format[0].kind;
         long long limit = countOf(m_format[0]);
         long long i = 0;
+        long long run = 0;
+        const auto runIsNumber = [&] {
+            return !m_isNumber ||
+                   m_isNumber(text.substr(static_cast<std::size_t>(i - run), static_cast<std::size_t>(run)));
+        };
         while (i < length)
         {
             const wchar_t ch = text[static_cast<std::size_t>(i)];
-            if (!(m_kind != 'S' && ofType(m_type, ch)))
+            if (!(m_kind != 'S' && ofType(m_type, ch, m_isNumber != nullptr)))
             {
                 if (m_kind != 'S')
                     moveOn();
@@ -107,6 +123,12 @@ public:
                 m_type = current().text;
                 m_kind = current().kind;
                 limit = m_kind == 'O' ? 0 : i + countOf(current()) + n;
+                if (m_kind == 'O')
+                {
+                    if (run > 0 && !runIsNumber())
+                        return false;
+                    run = 0;
+                }
                 i += n;
                 continue;
             }
@@ -115,6 +137,9 @@ public:
                 if (i + 1 == length)
                     moveOn();
                 ++i;
+                run += m_type == L"N" ? 1 : 0;
+                if (m_type == L"N" && i == length && !runIsNumber())
+                    return false;
                 continue;
             }
             if (i + 1 > limit)
@@ -144,8 +169,7 @@ private:
     static std::wstring lower(std::wstring text)
     {
         for (wchar_t& ch : text)
-            if (ch >= L'A' && ch <= L'Z')
-                ch = static_cast<wchar_t>(ch + 32);
+            ch = kx::foldLower(ch);
         return text;
     }
     bool none() const { return m_current >= m_format.size(); }
@@ -158,6 +182,7 @@ private:
     }
 
     const Format& m_format;
+    IsNumber m_isNumber;
     std::size_t m_current = 0;
     std::wstring m_type;
     char m_kind = ' ';

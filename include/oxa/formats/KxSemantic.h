@@ -3,6 +3,8 @@
 
 #include <afxcoll.h>
 #include <afxtempl.h>
+#include <cstddef>
+#include <cstdint>
 #include <vector>
 #include "kitrel/KxUnit.h"
 #include "oxa/Export.h"
@@ -60,6 +62,8 @@ private:
     /// A node as the walks over a text need it. The text is borrowed from the node.
     struct Step
     {
+        static constexpr std::ptrdiff_t anyNumber = PTRDIFF_MAX;
+
         const wchar_t* text;
         int length;
         int count;
@@ -67,9 +71,10 @@ private:
         unsigned classes; ///< of CharacterClasses; 0 for a range or a separator
         wchar_t low;
         wchar_t high;
+        std::ptrdiff_t room; ///< most characters of a group: its count, none for a negative one, or any number
     };
     struct Walk;
-    struct Judgement;
+    template <bool architectural> struct Judgement;
 
     int CheckHook(CString& format);
     int CheckParenthesis(CString& format);
@@ -84,7 +89,7 @@ private:
     void ReadSeparator(const CString& format);
     void DeleteNodes();
     void PlanSteps();
-    int Judge(const CString& text) const;
+    int JudgeWithoutMarks(CString& text) const;
     static bool TakesPrecisionMarks(const Step& step);
 
     int m_cursor = 0;

@@ -98,3 +98,62 @@ TEST(Reference, both_judges_agree_on_ordinary_formats)
               [&](const std::wstring& text)
               { EXPECT_EQ(reference::accepts(format, text), reference::StepJudge(format).judge(text)); });
 }
+
+TEST(Reference, marks_and_symbols_are_left_out_before_the_steps)
+{
+    const std::vector<Format> formats{
+        {{'O', L"N", 0}},
+        {{'F', L"A", 2}},
+        {{'O', L"A", 0}, {'S', L"\u00b1", 1}, {'F', L"N", 1}},
+        {{'F', L"N", 1}, {'S', L" ", 1}, {'F', L"C", 1}},
+        {{'O', L"\u00a0-\u00ff", 0}},
+        {{'F', L"\u2240-\u2250", 2}, {'S', L"1", 1}, {'O', L"A", 0}},
+        {{'S', L"\u2248", 1}, {'F', L"A", 3}, {'S', L"m", 1}},
+    };
+    const auto bare = [](const Format& format, const std::wstring& text)
+    {
+        CString left = framework(text);
+        CKxUnit::EliminateUnitsSymbol(11, left);
+        CKxUnit::EliminatePrecision(left);
+        return reference::StepJudge(format).judge(wide(left));
+    };
+    int accepted = 0;
+    for (const Format& format : formats)
+        accepted += compare(format, L"1 m\u00b1\u2248\t", 5, bare);
+    EXPECT_GT(accepted, 1000);
+}
+
+TEST(Reference, architectural_formats_follow_the_documented_steps)
+{
+    const std::vector<Format> formats{
+        {{'O', L"N", 0}},
+        {{'F', L"N", 3}},
+        {{'O', L"N", 0}, {'S', L"/", 1}, {'O', L"N", 0}},
+        {{'O', L"N", 0}, {'S', L"/", 1}, {'F', L"N", 2}, {'S', L"/", 1}, {'O', L"A", 0}},
+        {{'F', L"N", -1}, {'S', L"/", 1}, {'O', L"N", 0}},
+        {{'O', L"N", 0}, {'S', L"/", 1}, {'F', L"N", -2}, {'S', L"/", 1}, {'F', L"N", 1}},
+    };
+    const CKxUnit unit = feetUnit();
+    const auto isNumber = [&unit](const std::wstring& text)
+    {
+        int flag = 0;
+        unit.String2Double(framework(text), &flag, 1);
+        return flag != 0;
+    };
+    int accepted = 0;
+    for (const Format& format : formats)
+    {
+        const ParsedFeet semantic(reference::spelled(format).c_str());
+        ASSERT_EQ(semantic.result, 1);
+        everyText(L"1'\"-/", 6,
+                  [&](const std::wstring& text)
+                  {
+                      const int verdict = semantic.ValidAdd(framework(text));
+                      accepted += verdict;
+                      if (verdict != (reference::StepJudge(format, isNumber).judge(text) ? 1 : 0) && !HasFailure())
+                          ADD_FAILURE() << testing::PrintToString(reference::spelled(format)) << " on "
+                                        << testing::PrintToString(text) << ": " << verdict;
+                  });
+    }
+    EXPECT_GT(accepted, 1000);
+}

@@ -215,10 +215,22 @@ TEST(ValidAdd, a_symbol_of_a_section_dimension_is_left_out)
     EXPECT_EQ(valid(L"[(N)2]", L"12 cm"), 1);
 }
 
+TEST(ValidAdd, every_symbol_of_a_section_dimension_is_known)
+{
+    CKxUnit unit;
+    unit.SetIdUnit(11);
+    unsigned int units = 0;
+    for (; unit.SetRange(units), unit.GetRange() == units; ++units)
+        for (const wchar_t* blank : {L"", L" ", L"\t", L"\u00a0"})
+            EXPECT_EQ(valid(L"[(N)x]", L"12" + wide(unit.GetName()) + blank), 1) << units;
+    EXPECT_EQ(units, 8U);
+}
+
 TEST(ValidAdd, a_precision_mark_is_left_out)
 {
     EXPECT_EQ(valid(L"[(N)x]", L"12\u00b10.5"), 1);
     EXPECT_EQ(valid(L"[(N)x]", L"\u224812"), 1);
+    EXPECT_EQ(valid(L"[(A)2]", L"12  \u00b10.5"), 1); // with the blanks before it
 }
 
 TEST(ValidAdd, marks_and_symbols_go_before_the_text_is_judged)
@@ -278,6 +290,7 @@ TEST(ValidAdd, a_negative_count_leaves_no_room)
 {
     EXPECT_EQ(feetValid(L"[(N)-5]", L"1"), 0);
     EXPECT_EQ(feetValid(L"[(N)-5]", L""), 1);
+    EXPECT_EQ(feetValid(L"[(N)-5]/[(N)1]", L"/1"), 1);
     EXPECT_EQ(feetValid(L"[(N)2]/[(N)-2]", L"1/23456"), 1); // limit 0: open
 }
 
@@ -285,6 +298,7 @@ TEST(ValidAdd, huge_counts_do_not_overflow)
 {
     EXPECT_EQ(valid(L"[(N)2147483647]-[(N)2147483647]", L"1-2"), 1);
     EXPECT_EQ(valid(L"[(N)99999999999]", L"123"), 1);
+    EXPECT_EQ(valid(L"[(N)2147483647]-", L"123"), 0); // fixed all the same
 }
 
 TEST(ValidAdd, terminators_and_surrogates_pass_no_class)
