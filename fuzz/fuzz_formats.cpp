@@ -9,6 +9,7 @@
 #include "oxa/formats/KxSemantic.h"
 #include "oxa/formats/KxSemanticNode.h"
 #include "oxa/formats/KxSeparator.h"
+#include "support/ReferenceFormats.h"
 
 namespace
 {
@@ -245,7 +246,43 @@ void analyse(const CKxSemantic& semantic, const CString& text)
     }
 }
 
-void judge(const CKxSemantic& semantic, const CString& text)
+std::wstring wide(const CString& text)
+{
+    return {text.GetString(), static_cast<std::size_t>(text.GetLength())};
+}
+
+reference::Format formatOf(const CKxSemantic& semantic)
+{
+    reference::Format format;
+    for (POSITION place = semantic.GetNodes().GetHeadPosition(); place;)
+    {
+        const auto* node = static_cast<const CKxSemanticNode*>(semantic.GetNodes().GetNext(place));
+        const char kind = node->GetKind() == L"S" ? 'S' : node->GetKind() == L"x" ? 'O' : 'F';
+        format.push_back({kind, wide(node->GetText()), node->GetCount()});
+    }
+    return format;
+}
+
+/// What the documented steps say, in a program of their own.
+bool acceptedByReference(const CKxSemantic& semantic, const CKxUnit& unit, CString text)
+{
+    const bool architectural = semantic.IsUsingArchitecturalFormat();
+    if (!architectural)
+        CKxUnit::EliminateUnitsSymbol(11, text);
+    CKxUnit::EliminatePrecision(text);
+    reference::StepJudge::IsNumber isNumber;
+    if (architectural)
+        isNumber = [&unit](const std::wstring& number)
+        {
+            int flag = 0;
+            unit.String2Double(take(number), &flag, 1);
+            return flag != 0;
+        };
+    const reference::Format format = formatOf(semantic);
+    return reference::StepJudge(format, isNumber).judge(wide(text));
+}
+
+void judge(const CKxSemantic& semantic, const CKxUnit& unit, const CString& text)
 {
     int verdict = -1;
     if (!completes([&] { verdict = semantic.ValidAdd(text); }))
@@ -254,6 +291,7 @@ void judge(const CKxSemantic& semantic, const CString& text)
         return;
     }
     require(verdict == 0 || verdict == 1);
+    require(verdict == (acceptedByReference(semantic, unit, text) ? 1 : 0));
     int again = -1;
     require(completes([&] { again = semantic.ValidAdd(text); }) && again == verdict);
     const CString bare = semantic.GetStringUnMasked(text);
@@ -280,9 +318,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             parts[part] += ch;
     }
     CKxSemantic semantic;
+    CKxUnit unit;
     if ((options & 1U) != 0)
     {
-        CKxUnit unit;
         unit.SetIdUnit(1);
         unit.SetRange(5);
         unit.SetUnitFormat(UNITFORMAT_ARCHITECTURAL);
@@ -295,8 +333,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(sameText(format, take(parts[0])));
     checkNodes(semantic);
     if ((options & 2U) != 0)
-        semantic.SetUseArchitecturalFormat((options & 1U) == 0, CKxUnit());
-    judge(semantic, text);
+    {
+        unit = CKxUnit();
+        semantic.SetUseArchitecturalFormat((options & 1U) == 0, unit);
+    }
+    judge(semantic, unit, text);
     analyse(semantic, text);
     edit(semantic, text, (options & 4U) != 0 ? format : text);
     require(semantic.CheckSyntax(format) == result || (options & 2U) != 0);
