@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <limits>
 #include "StandardPalettes.h"
 
 namespace
@@ -12,7 +13,7 @@ unsigned char grayOf(unsigned long index, unsigned long colors)
     return static_cast<unsigned char>(index * (255 / (colors - 1)));
 }
 
-unsigned char blended(unsigned char from, unsigned char to, long percent)
+unsigned char blended(unsigned char from, unsigned char to, std::int64_t percent)
 {
     return static_cast<unsigned char>((from * (100 - percent) + to * percent) / 100);
 }
@@ -34,9 +35,12 @@ RGBQUAD CKxGifImage::GetPaletteColor(unsigned char i) const
 
 bool CKxGifImage::GetPaletteColor(unsigned char i, unsigned char* r, unsigned char* g, unsigned char* b) const
 {
-    if (!GetPalette())
+    const RGBQUAD* palette = GetPalette();
+    if (!palette)
         return false;
-    const RGBQUAD color = GetPaletteColor(i);
+    // Not tested against the palette: behind its end stand the pixels. Behind the block stands nothing.
+    const bool inBlock = sizeof(BITMAPINFOHEADER) + (i + std::size_t{1}) * sizeof(RGBQUAD) <= m_pDib.Size();
+    const RGBQUAD color = inBlock ? palette[i] : RGBQUAD{};
     if (r)
         *r = color.rgbRed;
     if (g)
@@ -123,6 +127,8 @@ void CKxGifImage::SetStdPalette()
         std::ranges::copy(StandardPalettes::Sixteen(), palette);
     else if (m_Head.biBitCount == 8)
         std::ranges::copy(StandardPalettes::TwoHundredFiftySix(), palette);
+    else
+        return;
     ForgetLastColor();
 }
 
@@ -131,14 +137,15 @@ void CKxGifImage::BlendPalette(unsigned long colorref, long percent)
     RGBQUAD* palette = GetPalette();
     if (!palette)
         return;
-    percent = std::clamp(percent, 0L, 100L);
+    // No lower limit: meant.
+    const std::int64_t share = std::clamp<std::int64_t>(percent, std::numeric_limits<std::int32_t>::min(), 100);
     const RGBQUAD target = RGBtoRGBQUAD(colorref);
     for (unsigned long i = 0; i < m_Head.biClrUsed; ++i)
     {
         RGBQUAD& entry = palette[i];
-        entry.rgbBlue = blended(entry.rgbBlue, target.rgbBlue, percent);
-        entry.rgbGreen = blended(entry.rgbGreen, target.rgbGreen, percent);
-        entry.rgbRed = blended(entry.rgbRed, target.rgbRed, percent);
+        entry.rgbBlue = blended(entry.rgbBlue, target.rgbBlue, share);
+        entry.rgbGreen = blended(entry.rgbGreen, target.rgbGreen, share);
+        entry.rgbRed = blended(entry.rgbRed, target.rgbRed, share);
     }
     ForgetLastColor();
 }

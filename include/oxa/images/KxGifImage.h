@@ -14,6 +14,8 @@
 #include "oxa/images/KxMemFile.h"
 #include "oxa/images/SharedBytes.h"
 
+struct PixelBlock;
+
 /// An image of 1, 4, 8 or 24 bits per pixel.
 ///
 /// The block is a packed device-independent bitmap: a 40-byte header, the palette (2, 16, 256 or no entries of 4 bytes),
@@ -141,7 +143,8 @@ public:
     RGBQUAD* GetPalette() const;
     /// All zero for an entry that is not there.
     RGBQUAD GetPaletteColor(unsigned char i) const;
-    /// False, and nothing written, without palette. An entry beyond the palette is given as black.
+    /// False, and nothing written, without palette. `i` is not tested against the
+    /// palette: behind it the bytes of the pixels are given, and black behind those.
     bool GetPaletteColor(unsigned char i, unsigned char* r, unsigned char* g, unsigned char* b) const;
     /// A write beyond the palette is ignored, here and below.
     void SetPaletteColor(unsigned char i, unsigned char r, unsigned char g, unsigned char b, unsigned char alpha = 0);
@@ -155,7 +158,8 @@ public:
     void SetGrayPalette();
     /// The standard table of 16 or of 256 colours; nothing at 1 and 24 bits.
     void SetStdPalette();
-    /// Moves each entry towards a colour by `percent`, 0 to 100; values outside are limited.
+    /// Moves each entry towards a colour by `percent`: 0 keeps it, 100 and above is the colour. A negative value moves
+    /// away from the colour, and channels wrap.
     void BlendPalette(unsigned long colorref, long percent);
     /// Whether entry i is grey i for every i: an 8-bit grey palette, and no other.
     bool IsGrayScale() const;
@@ -281,6 +285,10 @@ protected:
 
 private:
     void PointAtPixels();
+    PixelBlock Pixels() const;
+    bool StartReduction(RGBQUAD* palette);
+    bool ReduceTo(CKxGifImage& target, bool diffuse);
+    void SetBlackAndWhite();
     void ForgetLastColor()
     {
         m_Info.bLastValid = false;
