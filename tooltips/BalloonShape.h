@@ -9,8 +9,11 @@
 /// The shape of a balloon of a given client area. All values are pixels in client coordinates.
 struct OXA_API BalloonShape
 {
-    static constexpr int cornerSize = 10; ///< width and height of the ellipse that rounds the corners of the body
-    static constexpr int tailPoints = 3;
+    enum : int
+    {
+        cornerSize = 10, ///< width and height of the ellipse that rounds the corners of the body
+        tailPoints = 3
+    };
 
     CRect text;              ///< the room for the text
     CRect body;              ///< the rounded rectangle

@@ -19,9 +19,12 @@ struct OXA_API LineTipText
 /// Where a one-line tip goes and where its texts are written.
 struct OXA_API LineTipLayout
 {
-    static constexpr int textLeft = 3;    ///< x of the left part, pixels in the tip's window
-    static constexpr int textTop = 1;     ///< y of both parts
-    static constexpr long long shift = 1; ///< the window stands this much right of and below `bounds`
+    enum : int
+    {
+        textLeft = 3, ///< x of the left part, pixels in the tip's window
+        textTop = 1,  ///< y of both parts
+        shift = 1     ///< the window stands this much right of and below `bounds`
+    };
 
     CRect bounds; ///< the tip's rectangle, in client coordinates of its parent
     CSize frame;  ///< the size of `bounds`, which is the frame drawn and the size of the window

@@ -19,7 +19,10 @@ class KITREL_API KxPromptText
 {
 public:
     /// The key of the line `caption`.
-    static constexpr unsigned int c_caption = 0xFFFFFFFFU;
+    enum : unsigned int
+    {
+        c_caption = 0xFFFFFFFFU
+    };
 
     /// Reads `size` bytes of text; a null pointer gives no texts. Bytes that are no UTF-8 become U+FFFD.
     KxPromptText(const void* text, std::size_t size);
