@@ -14,7 +14,7 @@ if(OXA_CCACHE)
     # The cache takes part in precompiled headers only when it is told not to mind their time stamps.
     set(CMAKE_C_COMPILER_LAUNCHER ${OXA_CCACHE})
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${OXA_CCACHE})
-    if(NOT OXA_FUZZ)
+    if(NOT OXA_FUZZ AND NOT CMAKE_DISABLE_PRECOMPILE_HEADERS)
         add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-fpch-preprocess>)
     endif()
 endif()

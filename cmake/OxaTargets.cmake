@@ -41,8 +41,8 @@ function(oxa_subsystem name)
 endfunction()
 
 # What is judged is the library: the tests themselves are compiled in a hurry.
-set(OXA_TEST_OPTIONS -O1)
-if(WIN32)
+set(OXA_TEST_OPTIONS)
+if(NOT OXA_SANITIZE)
     set(OXA_TEST_OPTIONS -O0)
 endif()
 
