@@ -20,7 +20,8 @@ CString describe(const CKxSemanticNode& node)
     else if (node.GetKind() == L"x")
         line.Format(L"group %s, open", node.GetText().GetString());
     else
-        line.Format(L"group %s, %d places", node.GetText().GetString(), node.GetCount());
+        line.Format(L"group %s, %d place%s", node.GetText().GetString(), node.GetCount(),
+                    node.GetCount() == 1 ? L"" : L"s");
     return line;
 }
 

@@ -17,6 +17,7 @@ protected:
         CKxUnit metres(1, 0, 3, L'.', 1.0, 1); // family 1 (lengths), its unit 0 (metres), three decimals
         m_field.SetDefaultValues(this, 100, 0.0, metres, 0.0, 0.0);
         m_field.AddValueSI(6.25); // values cross the border in SI
+        m_field.SetCurSel(0);     // shown at first
         return TRUE;
     }
     void OnOK() override
@@ -34,7 +35,13 @@ class CFirstHost : public CWinApp
 {
     BOOL InitInstance() override
     {
-        CSpanDialog().DoModal();
-        return FALSE;
+        CSpanDialog dialog;
+        if (dialog.DoModal() == IDOK)
+        {
+            CString text;
+            text.Format(L"The span is %g metres.", dialog.m_span);
+            AfxMessageBox(text);
+        }
+        return FALSE; // nothing more to do
     }
 } theApp;
