@@ -24,7 +24,10 @@ class OXA_API CKxSemantic
 {
 public:
     /// The most places that a format may have in CreateListFormat and MakeToolTipsString; more throw CMemoryException.
-    static constexpr int MaxPlaces = 1000000;
+    enum : int
+    {
+        MaxPlaces = 1000000
+    };
 
     CKxSemantic();
     virtual ~CKxSemantic();
