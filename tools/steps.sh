@@ -70,7 +70,7 @@ configure_and_build() { # PRESET [TARGET...]
     fi
 }
 
-sources() { find afx siblings include frame formats units tooltips images resources gallery tests tools fuzz bench docs \( -name '*.cpp' -o -name '*.h' \) | sort; }
+sources() { find . -path ./build -prune -o \( -name '*.cpp' -o -name '*.h' \) -print | sort; }
 check_format() { sources | grep -v '/resource\.h$' | xargs clang-format-14 --dry-run -Werror; }
 
 wine_prefix() { tools/wine-base "$PWD/build/wine/base"; }
@@ -91,7 +91,7 @@ fuzz_all() { # SECONDS
         [ -x "$target" ] && [ ! -d "$target" ] || continue
         name=$(basename "$target")
         mkdir -p "build/fuzz/found/$name"
-        "$target" -max_total_time="$1" -timeout=20 -rss_limit_mb=3000 -print_final_stats=1 -verbosity=0 \
+        "$target" -max_total_time="$1" -timeout=60 -rss_limit_mb=3000 -print_final_stats=1 -verbosity=0 \
             -artifact_prefix="build/fuzz/found/$name-" "build/fuzz/found/$name" "fuzz/corpus/${name#fuzz_}" &
         pids+=($!)
     done
