@@ -98,7 +98,10 @@ struct DecodedPicture
             rows[stride() * static_cast<std::size_t>(y) + static_cast<std::size_t>(x) * 3 + i] = blueGreenRed[i];
     }
 
-    std::size_t stride() const { return (static_cast<std::size_t>(depth) * static_cast<std::size_t>(width) + 31) / 32 * 4; }
+    std::size_t stride() const
+    {
+        return (static_cast<std::size_t>(depth) * static_cast<std::size_t>(width) + 31) / 32 * 4;
+    }
 
 private:
     std::size_t byteOf(int x, int y) const

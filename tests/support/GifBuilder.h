@@ -157,10 +157,7 @@ public:
     }
     GifBuilder& text(std::string_view letters) { return raw(Bytes(letters.begin(), letters.end())); }
     /// Sub-blocks of at most `length` bytes, and the terminator.
-    GifBuilder& blocks(const Bytes& bytes, std::size_t length = 255)
-    {
-        return openBlocks(bytes, length).byte(0);
-    }
+    GifBuilder& blocks(const Bytes& bytes, std::size_t length = 255) { return openBlocks(bytes, length).byte(0); }
     /// The same without the terminator.
     GifBuilder& openBlocks(const Bytes& bytes, std::size_t length = 255)
     {

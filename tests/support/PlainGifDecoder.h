@@ -172,7 +172,8 @@ private:
 
     static bool inside(const Descriptor& descriptor, const Screen& screen)
     {
-        return descriptor.left + descriptor.width <= screen.width && descriptor.top + descriptor.height <= screen.height;
+        return descriptor.left + descriptor.width <= screen.width &&
+               descriptor.top + descriptor.height <= screen.height;
     }
 
     static void readLocalTable(ByteStream& stream, const Descriptor& descriptor, Table& table)

@@ -28,7 +28,7 @@ struct InputBuffer
     ScratchTable<std::uint8_t, 16384> bytes;
 };
 
-/// The plain two-table LZW decoder.
+/// The LZW decoder: the bits that wait, and the two tables.
 struct LzwDecoderState
 {
     enum : int
@@ -45,12 +45,13 @@ struct LzwDecoderState
     std::int16_t firstFreeCode = 0;
     std::int16_t topSlot = 0; // the first code that the width cannot hold
     std::int16_t nextSlot = 0;
-    std::int16_t bytesLeft = 0; // in the block
+    std::int16_t bytesLeft = 0; // in the block; -1 behind a terminator
     std::int16_t bitsLeft = 0;  // in the held byte
     std::uint8_t heldByte = 0;
     std::int16_t blockPosition = 0; // next byte of the block
-    ScratchTable<std::uint8_t, 257> block;
+    bool prefixFilled = false;      // false: the prefix table counts as zero
+    std::uint8_t block[257] = {};
     ScratchTable<std::uint8_t, TableSize> stack;
     ScratchTable<std::uint8_t, TableSize> suffix;
-    ScratchTable<std::uint16_t, TableSize> prefix;
+    ScratchTable<std::uint16_t, TableSize> prefix; // its upper half outlives a frame
 };

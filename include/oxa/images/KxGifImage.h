@@ -284,6 +284,12 @@ protected:
     SharedBytes m_pAlpha;
 
 private:
+    class GifReading; // one run of `Decode`
+
+    bool ReadControl(CKxMemFile& file);
+    bool ReadComment(CKxMemFile& file);
+    bool ReadApplication(CKxMemFile& file);
+
     void PointAtPixels();
     PixelBlock Pixels() const;
     bool StartReduction(RGBQUAD* palette);
