@@ -15,10 +15,10 @@ int GifCodeReader::FillBlock(LzwDecoderState& state, GifInput& input)
         return GifInput::End;
     for (int filled = 0; filled < length;)
     {
-        const int byte = input.Byte();
-        if (byte < 0)
+        const int value = input.Byte();
+        if (value < 0)
             return GifInput::End;
-        state.block[filled++] = static_cast<std::uint8_t>(byte);
+        state.block[filled++] = static_cast<std::uint8_t>(value);
         const std::size_t more = std::min(input.AtHand(), static_cast<std::size_t>(length - filled));
         std::memcpy(state.block + filled, input.Next(), more);
         input.Skip(more);

@@ -7,19 +7,19 @@
 bool CKxGifImage::GifReading::Scan()
 {
     bool afterNull = true;
-    std::uint8_t byte = 0;
-    while (ReadByte(byte))
+    std::uint8_t value = 0;
+    while (ReadByte(value))
     {
         if (m_image.GetEscape() > 0)
             return false;
-        if (!afterNull && byte != 0)
+        if (!afterNull && value != 0)
             continue;
-        if (byte == '!')
+        if (value == '!')
         {
             if (!m_image.DecodeExtension(&m_file))
                 break;
         }
-        else if (byte == ',')
+        else if (value == ',')
         {
             const Step step = ReadFrame();
             if (step == Step::Failed)
@@ -27,10 +27,10 @@ bool CKxGifImage::GifReading::Scan()
             if (step == Step::Done)
                 break;
         }
-        else if (byte == ';')
+        else if (value == ';')
             break;
         else
-            afterNull = byte == 0;
+            afterNull = value == 0;
     }
     FinishMosaic();
     return true;

@@ -60,22 +60,22 @@ int CKxGifImage::GifReading::CountFrames(tag_TabCol table, const tag_dscgif& scr
     const long start = m_file.Tell();
     int count = 0;
     bool afterNull = true;
-    std::uint8_t byte = 0;
-    while (ReadByte(byte))
+    std::uint8_t value = 0;
+    while (ReadByte(value))
     {
-        if (!afterNull && byte != 0)
+        if (!afterNull && value != 0)
             continue;
-        if (byte == '!')
+        if (value == '!')
             m_image.DecodeExtension(&m_file);
-        else if (byte == ',')
+        else if (value == ',')
         {
             if (!CountFrame(table, screen, count))
                 break;
         }
-        else if (byte == ';')
+        else if (value == ';')
             break;
         else
-            afterNull = byte == 0;
+            afterNull = value == 0;
     }
     m_file.Seek(start, 0);
     return count;

@@ -31,7 +31,7 @@ private:
     };
     class RowsOfImage;
 
-    bool ReadByte(std::uint8_t& byte) { return m_file.Read(&byte, 1, 1) == 1; }
+    bool ReadByte(std::uint8_t& value) { return m_file.Read(&value, 1, 1) == 1; }
     bool ReadDescriptor(tag_image& descriptor) { return m_file.Read(&descriptor, sizeof descriptor, 1) == 1; }
     void ReadTable(std::uint8_t flags, tag_TabCol& table);
     static bool IsInside(const tag_image& descriptor, const tag_dscgif& screen);

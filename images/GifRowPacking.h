@@ -35,7 +35,7 @@ inline void packRow(std::uint8_t* to, const std::uint8_t* pixels, std::size_t co
     {
         const std::size_t shift = 8 - (i % group + 1) * static_cast<std::size_t>(bits);
         const std::uint32_t pixel = pixels[i] & mask;
-        std::uint8_t& byte = to[i / group];
-        byte = static_cast<std::uint8_t>((byte & ~(mask << shift)) | pixel << shift);
+        std::uint8_t& cell = to[i / group];
+        cell = static_cast<std::uint8_t>((cell & ~(mask << shift)) | pixel << shift);
     }
 }

@@ -29,9 +29,9 @@ bool CKxGifImage::Decode(CKxMemFile* file)
 
 namespace
 {
-bool readByte(CKxMemFile& file, std::uint8_t& byte)
+bool readByte(CKxMemFile& file, std::uint8_t& value)
 {
-    return file.Read(&byte, 1, 1) == 1;
+    return file.Read(&value, 1, 1) == 1;
 }
 
 // A block of no bytes is a failed read.
@@ -173,15 +173,15 @@ long CKxGifImage::seek_next_image(CKxMemFile* file, long position)
         return -1;
     file->Seek(position, 0);
     std::uint8_t last = 0;
-    std::uint8_t byte = 0;
-    while (readByte(*file, byte))
+    std::uint8_t value = 0;
+    while (readByte(*file, value))
     {
-        if (byte == ',' && last == 0)
+        if (value == ',' && last == 0)
         {
             file->Seek(-1, 1);
             return file->Tell();
         }
-        last = byte;
+        last = value;
     }
     return -1;
 }

@@ -1,4 +1,4 @@
-// The GIF reader in its plain form: two passes, every byte scanned, every pixel set by itself. What the library's decoder
+// The GIF reader in its plain form: two passes, every value scanned, every pixel set by itself. What the library's decoder
 // must equal on every input. It has a picture model of its own and shares no code with the library.
 #pragma once
 
@@ -211,15 +211,15 @@ private:
     {
         stream.seek(position);
         std::uint8_t last = 0;
-        std::uint8_t byte = 0;
-        while (stream.read(&byte, 1) == 1)
+        std::uint8_t value = 0;
+        while (stream.read(&value, 1) == 1)
         {
-            if (byte == ',' && last == 0)
+            if (value == ',' && last == 0)
             {
                 stream.skip(-1);
                 return;
             }
-            last = byte;
+            last = value;
         }
     }
 
@@ -265,14 +265,14 @@ private:
         const std::int64_t start = stream.position();
         int count = 0;
         bool afterNull = true;
-        std::uint8_t byte = 0;
-        while (stream.read(&byte, 1) == 1)
+        std::uint8_t value = 0;
+        while (stream.read(&value, 1) == 1)
         {
-            if (!afterNull && byte != 0)
+            if (!afterNull && value != 0)
                 continue;
-            if (byte == '!')
+            if (value == '!')
                 readExtension(stream);
-            else if (byte == ',')
+            else if (value == ',')
             {
                 Descriptor descriptor;
                 if (!readDescriptor(stream, descriptor) || !inside(descriptor, screen))
@@ -285,10 +285,10 @@ private:
                 readRaster(stream, descriptor);
                 leaveRaster(stream);
             }
-            else if (byte == ';')
+            else if (value == ';')
                 break;
             else
-                afterNull = byte == 0;
+                afterNull = value == 0;
         }
         stream.seek(start);
         return count;
@@ -298,19 +298,19 @@ private:
     {
         Composition all{screen, table, score};
         bool afterNull = true;
-        std::uint8_t byte = 0;
-        while (stream.read(&byte, 1) == 1)
+        std::uint8_t value = 0;
+        while (stream.read(&value, 1) == 1)
         {
             if (escape > 0)
                 return false;
-            if (!afterNull && byte != 0)
+            if (!afterNull && value != 0)
                 continue;
-            if (byte == '!')
+            if (value == '!')
             {
                 if (!readExtension(stream))
                     break;
             }
-            else if (byte == ',')
+            else if (value == ',')
             {
                 const Step step = readFrame(stream, all);
                 if (step == Step::Fail)
@@ -318,10 +318,10 @@ private:
                 if (step == Step::Done)
                     break;
             }
-            else if (byte == ';')
+            else if (value == ';')
                 break;
             else
-                afterNull = byte == 0;
+                afterNull = value == 0;
         }
         finishMosaic(all);
         return true;
