@@ -216,7 +216,7 @@ void edit(const CKxSemantic& semantic, const CString& text, const CString& origi
             format.DecFormat(pos);
             break;
         case 6:
-            if (i < 8)
+            if (small(format)) // each update may double the groups
                 completes([&] { format.UpdateFormat(text); });
             break;
         case 7:

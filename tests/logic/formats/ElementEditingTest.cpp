@@ -1,278 +1,213 @@
 // Putting characters in and taking them out, and what that does to the positions of all elements.
+#include <functional>
 #include "FormatFixture.h"
 
 namespace
 {
-// "12#" open, "--", "##" fixed
-struct Mixed : Elements
+using Edit = std::function<void(CKxFormat&)>;
+
+Edit grow(int pos)
 {
-    Mixed() { open(L"12#", 0, 2).literal(L"--", 3, 4).fixed(L"##", 5, 6); }
+    return [pos](CKxFormat& format) { format.IncFormat(pos); };
+}
+Edit shrink(int pos)
+{
+    return [pos](CKxFormat& format) { format.DecFormat(pos); };
+}
+Edit addPlace(int pos)
+{
+    return [pos](CKxFormat& format) { format.AddFormatCarac(pos); };
+}
+Edit dropPlace(int pos)
+{
+    return [pos](CKxFormat& format) { format.DeleteFormatCarac(pos); };
+}
+Edit insert(int pos, wchar_t ch)
+{
+    return [pos, ch](CKxFormat& format) { format.Insert(pos, ch); };
+}
+Edit take(int pos)
+{
+    return [pos](CKxFormat& format) { format.Delete(pos); };
+}
+
+/// What one edit makes of a list, both as elements() writes them.
+struct Change
+{
+    const char* says;
+    const wchar_t* before;
+    Edit edit;
+    std::wstring after;
 };
+
+void expectChanges(const std::vector<Change>& changes)
+{
+    for (const Change& change : changes)
+    {
+        const Listed original(change.before);
+        EXPECT_EQ(elements(original), change.before);
+        Listed format(change.before);
+        change.edit(format);
+        EXPECT_EQ(elements(format), change.after) << change.says << ", from " << change.before;
+    }
+}
+
+/// The list stays as it was, and unmodified, under an edit at a separator or outside all elements.
+void expectNothing(const std::function<Edit(int)>& editAt)
+{
+    for (const int pos : {3, 4, 7, -1})
+    {
+        Listed format(L"O0-2:12# S3-4:-- G5-6:##");
+        format.SetModified(0);
+        editAt(pos)(format);
+        EXPECT_EQ(elements(format), L"O0-2:12# S3-4:-- G5-6:##") << pos;
+        EXPECT_EQ(format.GetModified(), 0) << pos;
+    }
+}
 } // namespace
 
-TEST(FormatShift, growing_stretches_the_group_at_the_position_and_slides_what_follows)
+TEST(FormatShift, the_group_at_the_position_stretches_and_what_follows_slides)
 {
-    Mixed format;
-    format.IncFormat(1);
-    EXPECT_EQ(elements(format), L"O0-3:12# S4-5:-- G6-7:##");
-}
-
-TEST(FormatShift, growing_at_a_later_group_leaves_the_earlier_ones)
-{
-    Mixed format;
-    format.IncFormat(6);
-    EXPECT_EQ(elements(format), L"O0-2:12# S3-4:-- G5-7:##");
-}
-
-TEST(FormatShift, growing_at_a_separator_leaves_it_and_slides_what_follows)
-{
-    Mixed format;
-    format.IncFormat(3);
-    EXPECT_EQ(elements(format), L"O0-2:12# S3-4:-- G6-7:##");
-}
-
-TEST(FormatShift, shrinking_is_the_same_walk_backwards)
-{
-    Mixed format;
-    format.DecFormat(0);
-    EXPECT_EQ(elements(format), L"O0-1:12# S2-3:-- G4-5:##");
-    Mixed other;
-    other.DecFormat(4);
-    EXPECT_EQ(elements(other), L"O0-2:12# S3-4:-- G4-5:##");
+    expectChanges({
+        {"in the first group", L"O0-2:12# S3-4:-- G5-6:##", grow(1), L"O0-3:12# S4-5:-- G6-7:##"},
+        {"a later group leaves the earlier ones", L"O0-2:12# S3-4:-- G5-6:##", grow(6), L"O0-2:12# S3-4:-- G5-7:##"},
+        {"a separator stays itself", L"O0-2:12# S3-4:-- G5-6:##", grow(3), L"O0-2:12# S3-4:-- G6-7:##"},
+        {"shrinking is the same walk backwards", L"O0-2:12# S3-4:-- G5-6:##", shrink(0), L"O0-1:12# S2-3:-- G4-5:##"},
+        {"from a separator too", L"O0-2:12# S3-4:-- G5-6:##", shrink(4), L"O0-2:12# S3-4:-- G4-5:##"},
+        {"elements behind that also cover the position stretch or stay", L"O0-5:# O2-8:# S3-3:- S9-9:+", grow(3),
+         L"O0-6:# O2-9:# S3-3:- S10-10:+"},
+    });
 }
 
 TEST(FormatShift, a_position_in_no_element_moves_nothing)
 {
-    Mixed format;
-    format.IncFormat(7);
-    format.IncFormat(-1);
-    format.DecFormat(7);
-    format.DecFormat(-1);
-    EXPECT_EQ(elements(format), L"O0-2:12# S3-4:-- G5-6:##");
+    for (const int pos : {7, -1})
+        expectChanges({
+            {"growing", L"O0-2:12# S3-4:-- G5-6:##", grow(pos), L"O0-2:12# S3-4:-- G5-6:##"},
+            {"shrinking", L"O0-2:12# S3-4:-- G5-6:##", shrink(pos), L"O0-2:12# S3-4:-- G5-6:##"},
+        });
 }
 
-TEST(FormatShift, elements_behind_that_also_cover_the_position_stretch_or_stay)
+TEST(FormatCarac, adding_appends_a_place_and_deleting_takes_the_last_character)
 {
-    Elements format;
-    format.open(L"#", 0, 5).open(L"#", 2, 8).literal(L"-", 3, 3).literal(L"+", 9, 9);
-    format.IncFormat(3);
-    EXPECT_EQ(elements(format), L"O0-6:# O2-9:# S3-3:- S10-10:+");
-}
-
-TEST(FormatCarac, adding_appends_a_place_and_lets_the_end_lag)
-{
-    Mixed format;
-    format.AddFormatCarac(5);
-    EXPECT_EQ(elements(format), L"O0-2:12# S3-4:-- G5-6:###");
-    format.IncFormat(5);
-    EXPECT_EQ(elements(format), L"O0-2:12# S3-4:-- G5-7:###");
-}
-
-TEST(FormatCarac, deleting_takes_the_last_character_and_shrinks)
-{
-    Mixed format;
-    format.DeleteFormatCarac(0);
-    EXPECT_EQ(elements(format), L"O0-1:12 S2-3:-- G4-5:##");
+    expectChanges({
+        {"adding lets the end lag", L"O0-2:12# S3-4:-- G5-6:##", addPlace(5), L"O0-2:12# S3-4:-- G5-6:###"},
+        {"until the caller grows", L"O0-2:12# S3-4:-- G5-6:###", grow(5), L"O0-2:12# S3-4:-- G5-7:###"},
+        {"deleting shrinks", L"O0-2:12# S3-4:-- G5-6:##", dropPlace(0), L"O0-1:12 S2-3:-- G4-5:##"},
+        {"a group without text shrinks all the same", L"O0-0: S1-1:-", dropPlace(0), L"O0--1: S0-0:-"},
+    });
 }
 
 TEST(FormatCarac, separators_and_outer_positions_are_left_alone)
 {
-    Mixed format;
-    for (const int pos : {3, 4, 7, -1})
-    {
-        format.AddFormatCarac(pos);
-        format.DeleteFormatCarac(pos);
-    }
-    EXPECT_EQ(elements(format), L"O0-2:12# S3-4:-- G5-6:##");
-}
-
-TEST(FormatCarac, a_group_without_text_shrinks_all_the_same)
-{
-    Elements format;
-    format.open(L"", 0, 0).literal(L"-", 1, 1);
-    format.DeleteFormatCarac(0);
-    EXPECT_EQ(elements(format), L"O0--1: S0-0:-");
+    expectNothing(addPlace);
+    expectNothing(dropPlace);
 }
 
 TEST(FormatInsert, a_fixed_group_takes_the_character_in_place)
 {
-    Elements format;
-    format.fixed(L"###", 0, 2);
+    expectChanges({
+        {"over a placeholder", L"G0-2:###", insert(1, L'7'), L"G0-2:#7#"},
+        {"over a character", L"G0-1:12 S2-2:- G3-3:3", insert(3, L'9'), L"G0-1:12 S2-2:- G3-3:9"},
+        {"nothing moves", L"G0-1:12 S2-2:- G3-3:9", insert(0, L'8'), L"G0-1:82 S2-2:- G3-3:9"},
+        {"a placeholder may be inserted", L"G0-1:12", insert(1, L'#'), L"G0-1:1#"},
+        {"behind the text nothing is replaced", L"G0-4:1", insert(3, L'2'), L"G0-4:1"},
+    });
+}
+
+TEST(FormatInsert, a_group_with_a_character_counts_as_filled)
+{
+    Listed format(L"G0-2:###");
+    EXPECT_EQ(format.ValidAdd(), 0);
+    EXPECT_EQ(format.IsEmpty(), 1);
     format.Insert(1, L'7');
-    EXPECT_EQ(elements(format), L"G0-2:#7#");
     EXPECT_EQ(format.ValidAdd(), 1);
     EXPECT_EQ(format.IsEmpty(), 0);
 }
 
-TEST(FormatInsert, a_fixed_group_is_overwritten_and_nothing_moves)
-{
-    Elements format;
-    format.fixed(L"12", 0, 1).literal(L"-", 2, 2).fixed(L"3", 3, 3);
-    format.Insert(3, L'9');
-    format.Insert(0, L'8');
-    EXPECT_EQ(elements(format), L"G0-1:82 S2-2:- G3-3:9");
-}
-
 TEST(FormatInsert, an_open_group_with_a_free_place_at_its_end_grows_by_one)
 {
-    Elements format;
-    format.open(L"#", 0, 0).literal(L"-", 1, 1);
-    format.Insert(0, L'a');
-    EXPECT_EQ(elements(format), L"O0-1:a# S2-2:-");
-    format.Insert(1, L'b');
-    EXPECT_EQ(elements(format), L"O0-2:ab# S3-3:-");
-    format.Insert(0, L'c');
-    EXPECT_EQ(elements(format), L"O0-3:cab# S4-4:-");
+    expectChanges({
+        {"before the free place", L"O0-0:# S1-1:-", insert(0, L'a'), L"O0-1:a# S2-2:-"},
+        {"and again", L"O0-1:a# S2-2:-", insert(1, L'b'), L"O0-2:ab# S3-3:-"},
+        {"at the head", L"O0-2:ab# S3-3:-", insert(0, L'c'), L"O0-3:cab# S4-4:-"},
+        {"behind its text the missing part is nothing", L"O0-9:#", insert(5, L'a'), L"O0-10:#a"},
+    });
 }
 
 TEST(FormatInsert, a_full_open_group_overwrites_the_character_before_and_adds_two_positions)
 {
-    Elements format;
-    format.open(L"abc", 0, 2).literal(L"-", 3, 3);
-    format.Insert(2, L'X');
-    EXPECT_EQ(elements(format), L"O0-4:aXc# S5-5:-"); // the first 1 of abc, X, abc from 2 on, "#"
-}
-
-TEST(FormatInsert, a_full_open_group_at_its_head_loses_nothing)
-{
-    Elements format;
-    format.open(L"abc", 0, 2).literal(L"-", 3, 3);
-    format.Insert(0, L'X');
-    EXPECT_EQ(elements(format), L"O0-4:Xabc# S5-5:-");
-}
-
-TEST(FormatInsert, an_open_group_without_text_counts_as_full)
-{
-    Elements format;
-    format.open(L"", 0, 0).literal(L"-", 1, 1);
-    format.Insert(0, L'X');
-    EXPECT_EQ(elements(format), L"O0-2:X# S3-3:-");
-}
-
-TEST(FormatInsert, behind_the_text_of_an_open_group_the_missing_part_is_nothing)
-{
-    Elements free;
-    free.open(L"#", 0, 9);
-    free.Insert(5, L'a');
-    EXPECT_EQ(elements(free), L"O0-10:#a");
-    Elements full;
-    full.open(L"ab", 0, 9);
-    full.Insert(5, L'c');
-    EXPECT_EQ(elements(full), L"O0-11:abc#");
-    Elements last;
-    last.open(L"ab", 0, 9);
-    last.Insert(2, L'c'); // the first 1 of ab, c, nothing, "#"
-    EXPECT_EQ(elements(last), L"O0-11:ac#");
-}
-
-TEST(FormatInsert, behind_the_text_of_a_fixed_group_nothing_is_replaced)
-{
-    Elements format;
-    format.fixed(L"1", 0, 4);
-    format.SetModified(0);
-    format.Insert(3, L'2');
-    EXPECT_EQ(elements(format), L"G0-4:1");
-    EXPECT_EQ(format.GetModified(), 1);
-}
-
-TEST(FormatInsert, separators_and_outer_positions_take_nothing)
-{
-    Mixed format;
-    format.SetModified(0);
-    for (const int pos : {3, 4, 7, -1})
-        format.Insert(pos, L'z');
-    EXPECT_EQ(elements(format), L"O0-2:12# S3-4:-- G5-6:##");
-    EXPECT_EQ(format.GetModified(), 0);
-}
-
-TEST(FormatInsert, every_group_case_marks_the_list_as_modified)
-{
-    for (const wchar_t* text : {L"#", L"a"})
-    {
-        Elements format;
-        format.open(text, 0, 0);
-        format.SetModified(0);
-        format.Insert(0, L'b');
-        EXPECT_EQ(format.GetModified(), 1);
-    }
-}
-
-TEST(FormatInsert, a_placeholder_may_be_inserted)
-{
-    Elements format;
-    format.fixed(L"12", 0, 1);
-    format.Insert(1, L'#');
-    EXPECT_EQ(elements(format), L"G0-1:1#");
+    expectChanges({
+        {"the first 1 of abc, X, abc from 2 on", L"O0-2:abc S3-3:-", insert(2, L'X'), L"O0-4:aXc# S5-5:-"},
+        {"at its head it loses nothing", L"O0-2:abc S3-3:-", insert(0, L'X'), L"O0-4:Xabc# S5-5:-"},
+        {"without text it counts as full", L"O0-0: S1-1:-", insert(0, L'X'), L"O0-2:X# S3-3:-"},
+        {"behind its text the missing part is nothing", L"O0-9:ab", insert(5, L'c'), L"O0-11:abc#"},
+        {"the first 1 of ab, c, nothing", L"O0-9:ab", insert(2, L'c'), L"O0-11:ac#"},
+    });
 }
 
 TEST(FormatInsert, an_embedded_terminator_is_a_character)
 {
-    Elements format;
-    format.open(L"#", 0, 0);
+    Listed format(L"O0-0:#");
     format.Insert(0, L'\0');
     format.Insert(1, L'a');
     EXPECT_EQ(elements(format), std::wstring(L"O0-2:\0a#", 8));
 }
 
+TEST(FormatInsert, separators_and_outer_positions_take_nothing)
+{
+    expectNothing([](int pos) { return insert(pos, L'z'); });
+}
+
+TEST(FormatInsert, every_group_case_marks_the_list_as_modified)
+{
+    for (const wchar_t* list : {L"O0-0:#", L"O0-0:a", L"G0-0:#"})
+    {
+        Listed format(list);
+        format.SetModified(0);
+        format.Insert(0, L'b');
+        EXPECT_EQ(format.GetModified(), 1) << list;
+    }
+    Listed behind(L"G0-4:1");
+    behind.SetModified(0);
+    behind.Insert(3, L'2');
+    EXPECT_EQ(behind.GetModified(), 1);
+}
+
 TEST(FormatDelete, a_fixed_group_gets_a_placeholder_at_its_end_and_nothing_moves)
 {
-    Elements format;
-    format.fixed(L"123", 0, 2).literal(L"-", 3, 3);
-    format.Delete(0);
-    EXPECT_EQ(elements(format), L"G0-2:23# S3-3:-");
+    expectChanges({
+        {"at its head", L"G0-2:123 S3-3:-", take(0), L"G0-2:23# S3-3:-"},
+        {"behind the text nothing goes, and the place comes", L"G0-4:1", take(3), L"G0-4:1#"},
+    });
 }
 
-TEST(FormatDelete, an_open_group_with_a_free_place_shrinks)
+TEST(FormatDelete, an_open_group_keeps_a_free_place)
 {
-    Elements format;
-    format.open(L"12#", 0, 2).literal(L"-", 3, 3).fixed(L"#", 4, 4);
-    format.Delete(0);
-    EXPECT_EQ(elements(format), L"O0-1:2# S2-2:- G3-3:#");
-}
-
-TEST(FormatDelete, an_open_group_without_a_free_place_keeps_its_positions)
-{
-    Elements format;
-    format.open(L"12", 0, 1).literal(L"-", 2, 2);
-    format.Delete(0);
-    EXPECT_EQ(elements(format), L"O0-1:2# S2-2:-");
-}
-
-TEST(FormatDelete, taking_the_only_placeholder_of_an_open_group_gives_it_back)
-{
-    Elements format;
-    format.open(L"#", 0, 0).literal(L"-", 1, 1);
-    format.Delete(0);
-    EXPECT_EQ(elements(format), L"O0-0:# S1-1:-");
-}
-
-TEST(FormatDelete, behind_the_text_nothing_goes_and_the_other_steps_run)
-{
-    Elements fixed;
-    fixed.fixed(L"1", 0, 4);
-    fixed.Delete(3);
-    EXPECT_EQ(elements(fixed), L"G0-4:1#");
-    Elements open;
-    open.open(L"1#", 0, 4).literal(L"-", 5, 5);
-    open.Delete(3);
-    EXPECT_EQ(elements(open), L"O0-3:1# S4-4:-");
-    EXPECT_EQ(open.GetModified(), 1);
+    expectChanges({
+        {"with one left it shrinks", L"O0-2:12# S3-3:- G4-4:#", take(0), L"O0-1:2# S2-2:- G3-3:#"},
+        {"without one it keeps its positions", L"O0-1:12 S2-2:-", take(0), L"O0-1:2# S2-2:-"},
+        {"the only one is given back", L"O0-0:# S1-1:-", take(0), L"O0-0:# S1-1:-"},
+        {"behind the text nothing goes, and it shrinks", L"O0-4:1# S5-5:-", take(3), L"O0-3:1# S4-4:-"},
+    });
 }
 
 TEST(FormatDelete, separators_and_outer_positions_lose_nothing)
 {
-    Mixed format;
-    format.SetModified(0);
-    for (const int pos : {3, 4, 7, -1})
-        format.Delete(pos);
-    EXPECT_EQ(elements(format), L"O0-2:12# S3-4:-- G5-6:##");
-    EXPECT_EQ(format.GetModified(), 0);
+    expectNothing(take);
 }
 
 TEST(FormatDelete, a_group_marks_the_list_as_modified)
 {
-    Mixed format;
-    format.SetModified(0);
-    format.Delete(6);
-    EXPECT_EQ(format.GetModified(), 1);
+    for (const int pos : {0, 6})
+    {
+        Listed format(L"O0-2:12# S3-4:-- G5-6:##");
+        format.SetModified(0);
+        format.Delete(pos);
+        EXPECT_EQ(format.GetModified(), 1) << pos;
+    }
+    Listed behind(L"O0-4:1# S5-5:-");
+    behind.SetModified(0);
+    behind.Delete(3);
+    EXPECT_EQ(behind.GetModified(), 1);
 }

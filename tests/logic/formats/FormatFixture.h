@@ -5,6 +5,7 @@
 #include <afx.h>
 #include <afxcoll.h>
 #include <afxtempl.h>
+#include <sstream>
 #include <string>
 #include <vector>
 #include "oxa/formats/KxFormat.h"
@@ -63,6 +64,29 @@ struct Elements : CKxFormat
     {
         AddTail(new CKxSeparator(text, start, end));
         return *this;
+    }
+};
+
+/// The list that elements() writes as this text; a fixed group takes as many characters as it has positions.
+struct Listed : Elements
+{
+    explicit Listed(const wchar_t* all)
+    {
+        std::wistringstream words(all);
+        for (std::wstring word; words >> word;)
+        {
+            std::size_t used = 0;
+            const int start = std::stoi(word.substr(1), &used);
+            const std::wstring behind = word.substr(used + 2);
+            const int end = std::stoi(behind, &used);
+            const std::wstring text = behind.substr(used + 1);
+            if (word[0] == L'S')
+                literal(text.c_str(), start, end);
+            else if (word[0] == L'O')
+                open(text.c_str(), start, end);
+            else
+                fixed(text.c_str(), start, end);
+        }
     }
 };
 
@@ -153,3 +177,47 @@ struct ParsedFeet : CKxSemantic
         result = CheckSyntax(text);
     }
 };
+
+/// A format with texts that it accepts and texts that it refuses.
+struct Verdicts
+{
+    const wchar_t* format;
+    std::vector<std::wstring> accepted;
+    std::vector<std::wstring> refused;
+};
+
+template <class Semantic = Parsed> void expectVerdicts(const std::vector<Verdicts>& rows)
+{
+    for (const Verdicts& row : rows)
+    {
+        const Semantic semantic(row.format);
+        for (const std::wstring& text : row.accepted)
+            EXPECT_EQ(semantic.ValidAdd(framework(text)), 1) << row.format << " on " << testing::PrintToString(text);
+        for (const std::wstring& text : row.refused)
+            EXPECT_EQ(semantic.ValidAdd(framework(text)), 0) << row.format << " on " << testing::PrintToString(text);
+    }
+}
+
+/// What a text becomes behind a keystroke.
+struct Keystroke
+{
+    std::wstring typed;
+    std::wstring left;
+};
+
+struct Keystrokes
+{
+    const wchar_t* format;
+    std::vector<Keystroke> rows;
+};
+
+template <class Semantic = Parsed> void expectAnalysed(const std::vector<Keystrokes>& formats)
+{
+    for (const Keystrokes& one : formats)
+    {
+        const Semantic semantic(one.format);
+        for (const Keystroke& row : one.rows)
+            EXPECT_EQ(wide(semantic.AnalyseSemantic(framework(row.typed))), row.left)
+                << one.format << " on " << testing::PrintToString(row.typed);
+    }
+}

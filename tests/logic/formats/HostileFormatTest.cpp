@@ -103,3 +103,20 @@ TEST(LongFormats, update_10000_open_groups)
     format.UpdateFormat(CString(L'5', 20000));
     EXPECT_EQ(static_cast<CKxGroup*>(format.GetTail())->GetStart(), 29998); // 10000 literals, 9999 groups of 2
 }
+
+TEST(LongFormats, updates_that_double_a_group_end_with_a_memory_exception)
+{
+    // a group between two literals gets as many places as it has, each time
+    CKxFormat format;
+    Parsed(L"-[(N)x]-").CreateListFormat(format);
+    const auto* group = static_cast<const CKxGroup*>(format.GetElement(1));
+    for (int length = 2; length <= CKxGroup::MaxTextLength; length *= 2)
+    {
+        format.UpdateFormat(CString());
+        ASSERT_EQ(group->GetTextLength(), length);
+    }
+    EXPECT_TRUE(raises<CMemoryException>([&] { format.UpdateFormat(CString()); }));
+    EXPECT_EQ(group->GetTextLength(), 16777216);
+    EXPECT_EQ(group->GetEnd(), 16777216);
+    EXPECT_EQ(format.GetFirstSeparator(2), 16777217);
+}
