@@ -118,7 +118,7 @@ void GifCodeReader::Leave()
     m_state->bitsLeft = static_cast<std::int16_t>(used * 8 - bit);
     if (used <= m_first)
     {
-        m_state->blockPosition = static_cast<std::int16_t>(m_state->blockPosition + (used - m_held));
+        m_state->blockPosition = static_cast<std::int16_t>(m_state->blockPosition + static_cast<int>(used - m_held));
         m_state->bytesLeft = static_cast<std::int16_t>(m_state->bytesLeft - static_cast<int>(used - m_held));
         return;
     }
