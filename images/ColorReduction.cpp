@@ -63,9 +63,10 @@ struct IndexedRow
 ColorReduction::ColorReduction(const PixelBlock& source, const GifImageInfo& sourceInfo, const PixelBlock& target,
                                const GifImageInfo& targetInfo)
     : m_source(source), m_target(target), m_chooser(target.palette, target.choosable, targetInfo),
-      m_sourceChooser(source.palette, source.choosable, sourceInfo), m_indexes(source.width),
-      m_current(source.palette ? source.width : 0), m_above(m_current)
+      m_indexes(source.width), m_current(source.palette ? source.width : 0), m_above(m_current)
 {
+    if (source.palette)
+        m_sourceChooser.emplace(source.palette, source.choosable, sourceInfo);
 }
 
 void ColorReduction::ReduceRow(std::size_t y)
@@ -103,8 +104,8 @@ void ColorReduction::DiffuseRow(std::size_t y)
         PixelRows::Unpack(m_source.Row(y), m_source.width, m_source.bits, m_current.data());
         if (hasAbove)
             PixelRows::Unpack(above, m_source.width, m_source.bits, m_above.data());
-        Diffuse(IndexedRow{m_current.data(), m_source.palette, &m_sourceChooser},
-                IndexedRow{m_above.data(), m_source.palette, &m_sourceChooser}, hasAbove);
+        Diffuse(IndexedRow{m_current.data(), m_source.palette, &*m_sourceChooser},
+                IndexedRow{m_above.data(), m_source.palette, &*m_sourceChooser}, hasAbove);
         PixelRows::Pack(m_current.data(), m_source.width, m_source.bits, m_source.Row(y));
         if (hasAbove)
             PixelRows::Pack(m_above.data(), m_source.width, m_source.bits, above);

@@ -3,8 +3,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <vector>
-#include "NearestColor.h"
 #include "RememberingChooser.h"
 
 /// The pixels of an image; nothing is owned.
@@ -41,8 +41,8 @@ private:
     PixelBlock m_source;
     PixelBlock m_target;
     RememberingChooser m_chooser;
-    RememberingChooser m_sourceChooser;  // for what diffusion writes into an indexed source
-    std::vector<std::uint8_t> m_indexes; // of the target's row
-    std::vector<std::uint8_t> m_current; // of two rows of an indexed source
+    std::optional<RememberingChooser> m_sourceChooser; // for what diffusion writes into an indexed source
+    std::vector<std::uint8_t> m_indexes;               // of the target's row
+    std::vector<std::uint8_t> m_current;               // of two rows of an indexed source
     std::vector<std::uint8_t> m_above;
 };

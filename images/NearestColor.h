@@ -14,8 +14,7 @@
 class NearestColor
 {
 public:
-    /// Of the first `count` entries of `palette`, at most 256, of which at least one must be there before
-    /// `Find`. The entries are copied. Throws std::bad_alloc.
+    /// Of the first `count` entries of `palette`, 1 to 256. The entries are copied. Throws std::bad_alloc.
     NearestColor(const RGBQUAD* palette, unsigned count);
 
     unsigned char Find(int blue, int green, int red)

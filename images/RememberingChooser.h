@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <cstring>
-#include <memory>
 #include "NearestColor.h"
 #include "oxa/images/GifImageInfo.h"
 
@@ -11,7 +10,7 @@
 class RememberingChooser
 {
 public:
-    /// Throws std::bad_alloc. Without palette there is nothing to choose.
+    /// Throws std::bad_alloc.
     RememberingChooser(const RGBQUAD* palette, unsigned count, const GifImageInfo& memory)
         : m_nearest(palette, count), m_last(Word(memory.LastColor)), m_index(memory.nLastIndex),
           m_valid(memory.bLastValid)
