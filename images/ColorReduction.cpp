@@ -1,7 +1,7 @@
 // The two ways through a row.
 #include "ColorReduction.h"
 
-#include "PixelRows.h"
+#include "GifRowPacking.h"
 
 namespace
 {
@@ -82,7 +82,7 @@ void ColorReduction::ReduceRow(std::size_t y)
     }
     else
     {
-        PixelRows::Unpack(m_source.Row(y), m_source.width, m_source.bits, m_current.data());
+        unpackRow(m_current.data(), m_source.Row(y), m_source.width, m_source.bits);
         const IndexedRow row{m_current.data(), m_source.palette, nullptr};
         for (std::size_t x = 0; x < m_source.width; ++x)
         {
@@ -90,7 +90,7 @@ void ColorReduction::ReduceRow(std::size_t y)
             m_indexes[x] = m_chooser.Choose(color.blue, color.green, color.red);
         }
     }
-    PixelRows::Pack(m_indexes.data(), m_target.width, m_target.bits, m_target.Row(y));
+    packRow(m_target.Row(y), m_indexes.data(), m_target.width, m_target.bits);
 }
 
 void ColorReduction::DiffuseRow(std::size_t y)
@@ -101,16 +101,16 @@ void ColorReduction::DiffuseRow(std::size_t y)
         Diffuse(TrueColorRow{m_source.Row(y)}, TrueColorRow{above}, hasAbove);
     else
     {
-        PixelRows::Unpack(m_source.Row(y), m_source.width, m_source.bits, m_current.data());
+        unpackRow(m_current.data(), m_source.Row(y), m_source.width, m_source.bits);
         if (hasAbove)
-            PixelRows::Unpack(above, m_source.width, m_source.bits, m_above.data());
+            unpackRow(m_above.data(), above, m_source.width, m_source.bits);
         Diffuse(IndexedRow{m_current.data(), m_source.palette, &*m_sourceChooser},
                 IndexedRow{m_above.data(), m_source.palette, &*m_sourceChooser}, hasAbove);
-        PixelRows::Pack(m_current.data(), m_source.width, m_source.bits, m_source.Row(y));
+        packRow(m_source.Row(y), m_current.data(), m_source.width, m_source.bits);
         if (hasAbove)
-            PixelRows::Pack(m_above.data(), m_source.width, m_source.bits, above);
+            packRow(above, m_above.data(), m_source.width, m_source.bits);
     }
-    PixelRows::Pack(m_indexes.data(), m_target.width, m_target.bits, m_target.Row(y));
+    packRow(m_target.Row(y), m_indexes.data(), m_target.width, m_target.bits);
 }
 
 // The neighbours get 7, 2, 4 and 1 sixteenths of the error, 14 in all: meant.

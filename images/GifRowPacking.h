@@ -1,4 +1,4 @@
-// Puts a row of one byte a pixel into the packed form of an image.
+// Rows of one byte a pixel, to and from the packed form of an image.
 #pragma once
 
 #include <cstddef>
@@ -38,4 +38,19 @@ inline void packRow(std::uint8_t* to, const std::uint8_t* pixels, std::size_t co
         std::uint8_t& cell = to[i / group];
         cell = static_cast<std::uint8_t>((cell & ~(mask << shift)) | pixel << shift);
     }
+}
+
+/// The reverse: `count` pixels of `bits` (1, 4 or 8) each become bytes.
+inline void unpackRow(std::uint8_t* to, const std::uint8_t* row, std::size_t count, int bits)
+{
+    if (bits == 8)
+    {
+        std::memcpy(to, row, count);
+        return;
+    }
+    const std::size_t group = bits == 4 ? 2 : 8;
+    const std::uint32_t mask = bits == 4 ? 15 : 1;
+    for (std::size_t i = 0; i < count; ++i)
+        to[i] =
+            static_cast<std::uint8_t>(row[i / group] >> (8 - (i % group + 1) * static_cast<std::size_t>(bits)) & mask);
 }

@@ -37,6 +37,10 @@ void fill(CKxGifImage& image, Random& random)
     auto palette = anyPalette(random);
     image.SetPalette(palette.data(), 256);
     const int kind = below(random, 3);
+    // Also the bits and bytes behind the pixels of a row, which nobody may touch.
+    unsigned char* const end = static_cast<unsigned char*>(image.GetDIB()) + image.GetSize();
+    for (unsigned char* pixel = image.GetBits(); pixel != end; ++pixel)
+        *pixel = static_cast<unsigned char>(below(random, 256));
     for (long y = 0; y < static_cast<long>(image.GetHeight()); ++y)
     {
         for (long x = 0; x < static_cast<long>(image.GetWidth()); ++x)
