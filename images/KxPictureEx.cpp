@@ -18,7 +18,7 @@ struct Drawn
 Drawn drawPicture(const DecodedPicture& picture, HDC dc, int w, int h, const COLORREF* background)
 {
     Drawn result;
-    if (!picture.exists())
+    if (!picture.exists() || w < 0 || h < 0)
     {
         return result;
     }

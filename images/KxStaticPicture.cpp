@@ -10,13 +10,9 @@ BEGIN_MESSAGE_MAP(CKxStaticPicture, CStatic)
 END_MESSAGE_MAP()
 // clang-format on
 
-CKxStaticPicture::CKxStaticPicture() : CKxStaticPicture(0)
-{
-}
+CKxStaticPicture::CKxStaticPicture() : CKxStaticPicture(0) {}
 
-CKxStaticPicture::CKxStaticPicture(unsigned int id) : m_nBitmapID(id)
-{
-}
+CKxStaticPicture::CKxStaticPicture(unsigned int id) : m_nBitmapID(id) {}
 
 CKxStaticPicture::~CKxStaticPicture() = default;
 

@@ -1,27 +1,19 @@
 // Loads at the client's size, and paints.
 #include "oxa/images/KxStaticPictureEx.h"
 
+#include "ClientContext.h"
 #include "oxa/images/KxImage.h"
 #include "oxa/images/KxPictureEx.h"
 
 namespace
 {
-/// Calls load(dc, width, height) with those of the client area. A window that gives no context is a failure.
+/// Calls load(dc, width, height) with those of the client area.
 template <class Load> int loadAtClientSize(CWnd& control, CBitmap& old, Load load)
 {
     old.DeleteObject();
     CRect client;
     control.GetClientRect(&client);
-    try
-    {
-        const CClientDC dc(&control);
-        return load(dc.GetSafeHdc(), client.Width(), client.Height());
-    }
-    catch (CResourceException* failure)
-    {
-        failure->Delete();
-        return 0;
-    }
+    return loadOnClientOf(&control, [&](HDC dc) { return load(dc, client.Width(), client.Height()); });
 }
 } // namespace
 
@@ -48,8 +40,8 @@ CKxStaticPictureEx::~CKxStaticPictureEx() = default;
 
 int CKxStaticPictureEx::SetBitmapID(unsigned int id, CString type)
 {
-    return loadAtClientSize(*this, m_Bitmap, [&](HDC dc, int w, int h)
-                            { return CKxPictureEx::LoadBitmap(id, dc, w, h, m_Bitmap, type); });
+    return loadAtClientSize(
+        *this, m_Bitmap, [&](HDC dc, int w, int h) { return CKxPictureEx::LoadBitmap(id, dc, w, h, m_Bitmap, type); });
 }
 
 int CKxStaticPictureEx::SetBitmapPath(CString path)
@@ -61,14 +53,16 @@ int CKxStaticPictureEx::SetBitmapPath(CString path)
 int CKxStaticPictureEx::SetBitmapPathEx(CString path)
 {
     return loadAtClientSize(
-        *this, m_Bitmap, [&](HDC dc, int w, int h)
+        *this, m_Bitmap,
+        [&](HDC dc, int w, int h)
         { return CKxPictureEx::LoadBitmapPath(path, dc, w, h, m_Bitmap, ::GetSysColor(COLOR_WINDOW)); });
 }
 
 int CKxStaticPictureEx::SetPicture(unsigned char* data, size_t size)
 {
     return loadAtClientSize(
-        *this, m_Bitmap, [&](HDC dc, int w, int h)
+        *this, m_Bitmap,
+        [&](HDC dc, int w, int h)
         { return CKxPictureEx::LoadPicture(data, size, dc, w, h, m_Bitmap, ::GetSysColor(COLOR_WINDOW)); });
 }
 

@@ -1,6 +1,7 @@
 // Loads at the fixed size.
 #include "oxa/images/KxStaticPictureEx2.h"
 
+#include "ClientContext.h"
 #include "oxa/images/KxPictureEx.h"
 
 namespace
@@ -23,12 +24,12 @@ CKxStaticPictureEx2::CKxStaticPictureEx2(CBitmap& bitmap, unsigned int id, CStri
 
 int CKxStaticPictureEx2::SetBitmapID(unsigned int id, CBitmap& bitmap, CString type)
 {
-    const CClientDC dc(CWnd::GetDesktopWindow());
-    return CKxPictureEx::LoadBitmap(id, dc.GetSafeHdc(), frameWidth, frameHeight, bitmap, type);
+    return loadOnClientOf(CWnd::GetDesktopWindow(), [&](HDC dc)
+                          { return CKxPictureEx::LoadBitmap(id, dc, frameWidth, frameHeight, bitmap, type); });
 }
 
 int CKxStaticPictureEx2::SetBitmapPath(CString path, CBitmap& bitmap)
 {
-    const CClientDC dc(CWnd::GetDesktopWindow());
-    return CKxPictureEx::LoadBitmap(path, dc.GetSafeHdc(), frameWidth, frameHeight, bitmap);
+    return loadOnClientOf(CWnd::GetDesktopWindow(),
+                          [&](HDC dc) { return CKxPictureEx::LoadBitmap(path, dc, frameWidth, frameHeight, bitmap); });
 }

@@ -15,9 +15,7 @@ BEGIN_MESSAGE_MAP(CKxSysColorBitmapStatic, CStatic)
 END_MESSAGE_MAP()
 // clang-format on
 
-CKxSysColorBitmapStatic::CKxSysColorBitmapStatic() : m_nBitmapID(noBitmap), m_shown(nullptr)
-{
-}
+CKxSysColorBitmapStatic::CKxSysColorBitmapStatic() : m_nBitmapID(noBitmap), m_shown(nullptr) {}
 
 CKxSysColorBitmapStatic::~CKxSysColorBitmapStatic()
 {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <iterator>
 
 namespace
 {
@@ -66,8 +67,13 @@ BitmapHeader readHeader(const Bytes& info)
         return {headerSize, info.wordAt(4), info.wordAt(6), info.wordAt(10), plain, 0, 0};
     }
     const int64_t height = signedLong(info.longAt(8));
-    return {headerSize,      signedLong(info.longAt(4)), height < 0 ? -height : height, info.wordAt(14),
-            info.longAt(16), info.longAt(20),            info.longAt(32)};
+    return {headerSize,
+            signedLong(info.longAt(4)),
+            height < 0 ? -height : height,
+            info.wordAt(14),
+            info.longAt(16),
+            info.longAt(20),
+            info.longAt(32)};
 }
 
 bool isKnown(const BitmapHeader& header)
