@@ -150,9 +150,9 @@ TEST(HostilePicture, a_thousand_loads_leave_no_handle_no_picture_and_no_global_b
         CBitmap bitmap;
         HBITMAP handle = nullptr;
         CKxPictureEx::LoadBitmap(file.path, canvas.GetSafeHdc(), 4, 4, bitmap);
-        CKxPictureEx::LoadBitmap(IDP_HALF, canvas.GetSafeHdc(), 4, 4, handle, L"BINARY");
+        CKxPictureEx::LoadBitmap(IDP_QUARTERS, canvas.GetSafeHdc(), 4, 4, handle, L"BINARY");
         ::DeleteObject(handle);
-        CKxPictureEx::LoadBitmap(IDP_HALF, canvas.GetSafeHdc(), 0, 0, handle, L"BINARY");
+        CKxPictureEx::LoadBitmap(IDP_QUARTERS, canvas.GetSafeHdc(), 0, 0, handle, L"BINARY");
         if (i % 10 == 0)
             CKxPictureEx::SaveBitmap(IDP_QUARTERS, saved.path);
     };
