@@ -47,6 +47,11 @@ LRESULT CALLBACK onCreateHook(int code, WPARAM wParam, LPARAM lParam)
             object->Detach();
             return 1; // nothing is created
         }
+        catch (...)
+        {
+            object->Detach();
+            return 1;
+        }
     }
     return ::CallNextHookEx(thread.createHook, code, wParam, lParam);
 }

@@ -3,6 +3,7 @@
 
 #include <windowsx.h>
 
+#include "StillThere.h"
 #include "TempWnd.h"
 
 namespace
@@ -238,7 +239,8 @@ bool Dispatch::control(UINT_PTR sig)
     case AfxSig_ctlcolor:
     {
         const auto* color = as<AFX_CTLCOLOR>();
-        return answer<HBRUSH>(CDC::FromHandle(color->hDC), CWnd::FromHandle(color->hWnd), color->nCtlType);
+        return color != nullptr &&
+               answer<HBRUSH>(CDC::FromHandle(color->hDC), CWnd::FromHandle(color->hWnd), color->nCtlType);
     }
     case AfxSig_drawitem:
         result = TRUE;
@@ -269,7 +271,7 @@ bool Dispatch::reflected(UINT_PTR sig)
     case AfxSig_ctlcolor_reflect:
     {
         const auto* color = as<AFX_CTLCOLOR>();
-        return answer<HBRUSH>(CDC::FromHandle(color->hDC), color->nCtlType);
+        return color != nullptr && answer<HBRUSH>(CDC::FromHandle(color->hDC), color->nCtlType);
     }
     case AfxSig_drawitem_reflect:
         result = TRUE;
@@ -310,12 +312,6 @@ const AFX_MSGMAP_ENTRY* findEntry(const AFX_MSGMAP* map, UINT message)
     }
     return nullptr;
 }
-
-// Gone: handlers may destroy the window and delete the object, and then say that they did not handle the message.
-bool isGone(HWND handle, const CWnd* wnd)
-{
-    return CWnd::FromHandlePermanent(handle) != wnd;
-}
 } // namespace
 
 BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
@@ -323,8 +319,7 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
     LRESULT answer = 0;
     if (message == WM_COMMAND || message == WM_NOTIFY)
     {
-        const HWND handle = m_hWnd;
-        const bool permanent = FromHandlePermanent(handle) == this;
+        const kx::StillThere here(*this);
         BOOL taken = FALSE;
         if (message == WM_COMMAND)
         {
@@ -335,7 +330,7 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
         {
             taken = OnNotify(wParam, lParam, &answer);
         }
-        if (!taken && !(permanent && isGone(handle, this)))
+        if (!taken && here) // a window that has gone asks for nothing more
             return FALSE;
     }
     else

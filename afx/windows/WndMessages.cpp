@@ -1,6 +1,7 @@
 // CWnd's message map, and the handlers that do more than the system: notifications go back to their controls.
 #include <afxwin.h>
 
+#include "StillThere.h"
 #include "ThreadState.h"
 
 BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
@@ -74,48 +75,44 @@ void CWnd::OnNcDestroy()
     PostNcDestroy();
 }
 
+// The control may end this window and its object while it is asked.
+LRESULT CWnd::OfferLastMsg(CWnd* control)
+{
+    const kx::StillThere here(*this);
+    LRESULT result = 0;
+    if (control != nullptr && control->SendChildNotifyLastMsg(&result))
+        return result;
+    return here ? Default() : 0;
+}
+
 void CWnd::OnParentNotify(UINT message, LPARAM lParam)
 {
     const bool aboutChild = message == WM_CREATE || message == WM_DESTROY;
-    if (!aboutChild || !ReflectLastMsg(reinterpret_cast<HWND>(lParam)))
-        Default();
+    OfferLastMsg(aboutChild ? FromHandlePermanent(reinterpret_cast<HWND>(lParam)) : nullptr);
 }
 
 void CWnd::OnHScroll(UINT, UINT, CScrollBar* bar)
 {
-    if (bar == nullptr || !reinterpret_cast<CWnd*>(bar)->SendChildNotifyLastMsg())
-        Default();
+    OfferLastMsg(reinterpret_cast<CWnd*>(bar));
 }
 
 void CWnd::OnVScroll(UINT, UINT, CScrollBar* bar)
 {
-    if (bar == nullptr || !reinterpret_cast<CWnd*>(bar)->SendChildNotifyLastMsg())
-        Default();
+    OfferLastMsg(reinterpret_cast<CWnd*>(bar));
 }
 
 HBRUSH CWnd::OnCtlColor(CDC*, CWnd* wnd, UINT)
 {
-    LRESULT brush = 0;
-    if (wnd != nullptr && wnd->SendChildNotifyLastMsg(&brush))
-        return reinterpret_cast<HBRUSH>(brush);
-    return reinterpret_cast<HBRUSH>(Default());
+    return reinterpret_cast<HBRUSH>(OfferLastMsg(wnd));
 }
 
 void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT item)
 {
-    if (item->CtlType == ODT_MENU)
-    {
-        if (CMenu* menu = CMenu::FromHandlePermanent(reinterpret_cast<HMENU>(item->hwndItem)))
-        {
-            menu->DrawItem(item);
-            return;
-        }
-    }
-    else if (ReflectLastMsg(item->hwndItem))
-    {
-        return;
-    }
-    Default();
+    const bool ofMenu = item != nullptr && item->CtlType == ODT_MENU;
+    if (CMenu* menu = ofMenu ? CMenu::FromHandlePermanent(reinterpret_cast<HMENU>(item->hwndItem)) : nullptr)
+        menu->DrawItem(item);
+    else
+        OfferLastMsg(item != nullptr && !ofMenu ? FromHandlePermanent(item->hwndItem) : nullptr);
 }
 
 namespace
@@ -141,52 +138,36 @@ CMenu* menuWithItem(HMENU from, UINT id)
 
 void CWnd::OnMeasureItem(int, LPMEASUREITEMSTRUCT item)
 {
-    if (item->CtlType == ODT_MENU)
+    if (item == nullptr || item->CtlType != ODT_MENU)
     {
-        const HMENU from = kxThread().trackingWnd == m_hWnd ? kxThread().trackedMenu : ::GetMenu(m_hWnd);
-        if (CMenu* menu = menuWithItem(from, item->itemID))
-        {
-            menu->MeasureItem(item);
-            return;
-        }
+        OfferLastMsg(item != nullptr ? GetDescendantWindow(static_cast<int>(item->CtlID), TRUE) : nullptr);
+        return;
     }
+    const HMENU from = kxThread().trackingWnd == m_hWnd ? kxThread().trackedMenu : ::GetMenu(m_hWnd);
+    if (CMenu* menu = menuWithItem(from, item->itemID))
+        menu->MeasureItem(item);
     else
-    {
-        CWnd* child = GetDescendantWindow(static_cast<int>(item->CtlID), TRUE);
-        if (child != nullptr && child->SendChildNotifyLastMsg())
-            return;
-    }
-    Default();
+        Default();
 }
 
 void CWnd::OnDeleteItem(int, LPDELETEITEMSTRUCT item)
 {
-    if (!ReflectLastMsg(item->hwndItem))
-        Default();
+    OfferLastMsg(item != nullptr ? FromHandlePermanent(item->hwndItem) : nullptr);
 }
 
 int CWnd::OnCompareItem(int, LPCOMPAREITEMSTRUCT item)
 {
-    LRESULT order = 0;
-    if (ReflectLastMsg(item->hwndItem, &order))
-        return static_cast<int>(order);
-    return static_cast<int>(Default());
+    return static_cast<int>(OfferLastMsg(item != nullptr ? FromHandlePermanent(item->hwndItem) : nullptr));
 }
 
 int CWnd::OnCharToItem(UINT, CListBox* box, UINT)
 {
-    LRESULT index = 0;
-    if (box != nullptr && reinterpret_cast<CWnd*>(box)->SendChildNotifyLastMsg(&index))
-        return static_cast<int>(index);
-    return static_cast<int>(Default());
+    return static_cast<int>(OfferLastMsg(reinterpret_cast<CWnd*>(box)));
 }
 
 int CWnd::OnVKeyToItem(UINT, CListBox* box, UINT)
 {
-    LRESULT index = 0;
-    if (box != nullptr && reinterpret_cast<CWnd*>(box)->SendChildNotifyLastMsg(&index))
-        return static_cast<int>(index);
-    return static_cast<int>(Default());
+    return static_cast<int>(OfferLastMsg(reinterpret_cast<CWnd*>(box)));
 }
 
 void CWnd::OnSysColorChange()

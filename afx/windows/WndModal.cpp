@@ -1,8 +1,26 @@
 // Modal loops, what comes before dispatch, and the state of a window's items.
 #include <afxwin.h>
 
+#include <utility>
+
 #include "kx/CmdUI.h"
 #include "ThreadState.h"
+
+namespace
+{
+/// Keeps the notifications that filling causes from their handlers: they are not the user's.
+class Lockout
+{
+public:
+    explicit Lockout(HWND wnd) : m_before(std::exchange(kxThread().lockout, wnd)) {}
+    ~Lockout() { kxThread().lockout = m_before; }
+    Lockout(const Lockout&) = delete;
+    Lockout& operator=(const Lockout&) = delete;
+
+private:
+    HWND m_before;
+};
+} // namespace
 
 int CWnd::RunModalLoop(DWORD flags)
 {
@@ -137,14 +155,11 @@ BOOL CWnd::UpdateData(BOOL saveAndValidate)
     if (m_hWnd == nullptr)
         return FALSE;
     CDataExchange exchange(this, saveAndValidate);
-    KxThreadState& thread = kxThread();
-    const HWND before = thread.lockout;
-    thread.lockout = m_hWnd; // the notifications that filling causes are not the user's
-    BOOL done = FALSE;
+    const Lockout lockout(m_hWnd);
     try
     {
         DoDataExchange(&exchange);
-        done = TRUE;
+        return TRUE;
     }
     catch (CUserException* exception)
     {
@@ -155,8 +170,7 @@ BOOL CWnd::UpdateData(BOOL saveAndValidate)
         exception->ReportError(MB_ICONEXCLAMATION, AFX_IDP_INTERNAL_FAILURE);
         exception->Delete();
     }
-    kxThread().lockout = before;
-    return done;
+    return FALSE;
 }
 
 void AfxCancelModes(HWND receiver)

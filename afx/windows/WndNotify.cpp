@@ -2,6 +2,7 @@
 #include <afxwin.h>
 
 #include "kx/CmdUI.h"
+#include "StillThere.h"
 #include "ThreadState.h"
 
 namespace
@@ -53,9 +54,8 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
     {
         if (m_hWnd == kxThread().lockout)
             return TRUE;
-        const HWND handle = m_hWnd;
-        const bool taken = ReflectLastMsg(control);
-        if (taken || (handle != nullptr && !::IsWindow(handle)))
+        const kx::StillThere here(*this);
+        if (ReflectLastMsg(control) || !here)
             return TRUE; // taken, or the control's handler ended this window
         if (id == 0)
             return FALSE;
@@ -72,7 +72,8 @@ BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT* result)
     const auto id = static_cast<UINT>(static_cast<WORD>(::GetDlgCtrlID(control)));
     if (m_hWnd == kxThread().lockout)
         return TRUE;
-    if (ReflectLastMsg(control, result))
+    const kx::StillThere here(*this);
+    if (ReflectLastMsg(control, result) || !here)
         return TRUE;
     AFX_NOTIFY notify = {result, header};
     return OnCmdMsg(id, MAKELONG(header->code, WM_NOTIFY), &notify, nullptr);
@@ -149,6 +150,7 @@ LRESULT CWnd::OnSystemCtlColor(WPARAM wParam, LPARAM lParam)
     const UINT message = kxThread().lastSent.message;
     AFX_CTLCOLOR color = ctlColorOf(message, wParam, lParam);
     LRESULT brush = 0;
+    const kx::StillThere here(*this);
     OnWndMsg(WM_CTLCOLOR, 0, reinterpret_cast<LPARAM>(&color), &brush);
-    return brush != 0 ? brush : DefWindowProc(message, wParam, lParam);
+    return brush != 0 || !here ? brush : DefWindowProc(message, wParam, lParam);
 }

@@ -26,6 +26,13 @@ private:
     CString m_text;
 };
 
+/// Stands for an exception of any other type, of which nothing can be said.
+class CUnknownException : public CException
+{
+public:
+    CUnknownException() : CException(FALSE) {}
+};
+
 /// Keeps the message that a procedure was handling over the message that it handles meanwhile.
 class CurrentMessage
 {
@@ -94,6 +101,11 @@ LRESULT AfxCallWndProc(CWnd* wnd, HWND handle, UINT message, WPARAM wParam, LPAR
     catch (const std::exception& standard)
     {
         CStandardException exception(standard);
+        return answerException(&exception, msg);
+    }
+    catch (...)
+    {
+        CUnknownException exception;
         return answerException(&exception, msg);
     }
 }

@@ -311,6 +311,7 @@ public:
     BOOL SendChildNotifyLastMsg(LRESULT* result = nullptr);
     /// Gives the message that is being handled back to the child window it came from. TRUE when the child took it.
     static BOOL ReflectLastMsg(HWND child, LRESULT* result = nullptr);
+    LRESULT OfferLastMsg(CWnd* control);
 
     /// The procedure that the window had before; a class with one for all its windows answers its address.
     virtual WNDPROC* GetSuperWndProcAddr();
