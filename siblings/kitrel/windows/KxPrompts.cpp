@@ -2,6 +2,7 @@
 #include "kitrel/KxPrompts.h"
 #include "kitrel/KxPromptText.h"
 #include "KitrelModule.h"
+#include <vector>
 
 namespace
 {
@@ -23,6 +24,14 @@ bool loadText(HMODULE module, unsigned int id, CString& out)
         return false;
     out = CString(text, length);
     return true;
+}
+
+std::vector<HWND> childrenOf(HWND window)
+{
+    std::vector<HWND> children;
+    for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+        children.push_back(child);
+    return children;
 }
 
 void setItemText(HMENU menu, UINT position, const CString& text)
@@ -79,10 +88,11 @@ CString KxPrompts::getPrompt(unsigned int id, const wchar_t* project, unsigned i
 
 int KxPrompts::getPrompt(CString& out, unsigned int id, const wchar_t* project, unsigned int /*flags*/)
 {
-    out.Empty();
-    if (id > 0xFFFF)
-        return 0;
-    return visitPromptModules(project, [&](HMODULE module) { return loadText(module, id, out); }) ? 1 : 0;
+    CString text; // not `out`, which may hold the name of the project
+    const bool found =
+        id <= 0xFFFF && visitPromptModules(project, [&](HMODULE module) { return loadText(module, id, text); });
+    out = text;
+    return found ? 1 : 0;
 }
 
 void KxPrompts::setDialogAndControlText(CWnd* dialog, unsigned int dialogId, const wchar_t* project)
@@ -95,7 +105,8 @@ void KxPrompts::setDialogAndControlText(CWnd* dialog, unsigned int dialogId, con
         return;
     if (const CString* caption = texts.find(KxPromptText::c_caption))
         SetWindowTextW(window, *caption);
-    for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+    // The list is made first: a control tells its parent of a new text, and the parent may change the order.
+    for (const HWND child : childrenOf(window))
         if (const CString* text = texts.find(static_cast<unsigned int>(GetDlgCtrlID(child))))
             SetWindowTextW(child, *text);
 }

@@ -13,6 +13,27 @@ std::wstring prompt(unsigned int id, const wchar_t* project)
     return static_cast<const wchar_t*>(KxPrompts::getPrompt(id, project, 0));
 }
 
+/// A dialog that brings to the top each field whose text changes, or ends at the first.
+class RestlessDialog : public CTestDialog
+{
+public:
+    RestlessDialog() : CTestDialog(IDD_RESTLESS) {}
+    int changes = 0;
+    bool ends = false;
+
+protected:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override
+    {
+        if (HIWORD(wParam) != EN_CHANGE || ++changes > 100)
+            return CTestDialog::OnCommand(wParam, lParam);
+        if (ends)
+            DestroyWindow();
+        else
+            ::SetWindowPos(reinterpret_cast<HWND>(lParam), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+        return TRUE;
+    }
+};
+
 /// A menu resource of the test program.
 class TestMenu
 {
@@ -67,6 +88,13 @@ TEST(Prompts, are_not_found_under_another_project_or_another_spelling)
     EXPECT_EQ(prompt(20907, L"KITRE"), L"");
     EXPECT_EQ(prompt(20907, L""), L"");
     EXPECT_EQ(prompt(20907, L"NOBODY"), L"");
+}
+
+TEST(Prompts, result_may_go_where_the_name_of_the_project_stands)
+{
+    CString text(L"KITREL");
+    EXPECT_EQ(KxPrompts::getPrompt(text, 20907, text, 0), 1);
+    EXPECT_STREQ(text, L"Annuler");
 }
 
 TEST(Prompts, a_null_project_asks_every_module)
@@ -127,6 +155,25 @@ TEST(Prompts, dialog_without_filed_texts_is_left_alone)
     KxPrompts::setDialogAndControlText(&dialog, IDD_FILED + 0x10000, L"TESTS");
     EXPECT_EQ(dialog.caption(), L"Template caption");
     EXPECT_EQ(dialog.text(IDC_FILED_LABEL), L"Label of the template");
+}
+
+TEST(Prompts, a_dialog_that_moves_its_controls_as_their_texts_change_gets_each_text_once)
+{
+    RestlessDialog dialog;
+    ASSERT_NE(dialog.m_hWnd, nullptr);
+    KxPrompts::setDialogAndControlText(&dialog, IDD_RESTLESS, L"TESTS");
+    EXPECT_EQ(dialog.changes, 2);
+    EXPECT_EQ(dialog.text(IDC_FILED_LABEL), L"un");
+    EXPECT_EQ(dialog.text(IDC_FILED_BUTTON), L"deux");
+}
+
+TEST(Prompts, a_dialog_that_goes_as_its_texts_change_is_left)
+{
+    RestlessDialog dialog;
+    dialog.ends = true;
+    KxPrompts::setDialogAndControlText(&dialog, IDD_RESTLESS, L"TESTS");
+    EXPECT_EQ(dialog.m_hWnd, nullptr);
+    EXPECT_EQ(dialog.changes, 1);
 }
 
 TEST(Prompts, no_dialog_and_no_menu_do_no_harm)

@@ -5,6 +5,7 @@
 #define IDD_UNFILED 102
 #define IDM_FILED 103
 #define IDM_OWN_ID 104
+#define IDD_RESTLESS 105
 
 #define ID_FIRST 201
 #define ID_SECOND 202
