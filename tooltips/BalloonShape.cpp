@@ -56,21 +56,15 @@ CPoint BalloonShape::place(CPoint tip, CSize window, CSize screen, bool leftOrie
     long long left = leftOriented ? x : x - width;
     long long top = y - height;
     if (y > screen.cy)
-    {
         top = screen.cy - height;
-    }
     if (left + width > screen.cx)
-    {
         left = screen.cx - width;
-    }
     return CPoint(heldInt(left), heldInt(top));
 }
 
 unsigned int BalloonShape::textFlags(int textWidth, int roomWidth)
 {
     if (textWidth >= roomWidth)
-    {
         return drawCentred | drawWrapped;
-    }
     return drawCentred | drawMiddle | drawSingleLine;
 }

@@ -27,9 +27,7 @@ TOOLINFOW describe(CWnd& window, UINT flags)
 BOOL add(CWnd& control, TOOLINFOW& tool, const wchar_t* text)
 {
     if (control.GetSafeHwnd() == nullptr)
-    {
         return FALSE;
-    }
     CString cut;
     if (isText(text) && ::wcsnlen(text, longestText + 1) > longestText)
     {
@@ -41,12 +39,14 @@ BOOL add(CWnd& control, TOOLINFOW& tool, const wchar_t* text)
 }
 } // namespace
 
+// Defined here, so that the module exports them.
+CKxToolTip::CKxToolTip() = default;
+CKxToolTip::~CKxToolTip() = default;
+
 BOOL CKxToolTip::AddWindowTool(CWnd* window, const wchar_t* text)
 {
     if (window == nullptr)
-    {
         return FALSE;
-    }
     TOOLINFOW tool = describe(*window, TTF_IDISHWND | TTF_SUBCLASS);
     tool.uId = reinterpret_cast<UINT_PTR>(tool.hwnd);
     return add(*this, tool, text);
@@ -55,9 +55,7 @@ BOOL CKxToolTip::AddWindowTool(CWnd* window, const wchar_t* text)
 BOOL CKxToolTip::AddRectTool(CWnd* window, const wchar_t* text, const RECT* rect, unsigned int id)
 {
     if (window == nullptr || rect == nullptr)
-    {
         return FALSE;
-    }
     TOOLINFOW tool = describe(*window, TTF_SUBCLASS);
     tool.uId = id;
     tool.rect = *rect;

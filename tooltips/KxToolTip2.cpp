@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "BalloonShape.h"
+#include "Hiding.h"
 #include "SelectedObject.h"
 
 namespace
@@ -18,6 +19,21 @@ bool unite(CRgn& whole, const CRect& start, CRgn& tail, CRgn& body)
 {
     return whole.CreateRectRgn(start.left, start.top, start.right, start.bottom) &&
            whole.CombineRgn(&tail, &body, RGN_OR) != regionFailed;
+}
+
+bool endsTip(UINT message)
+{
+    switch (message)
+    {
+    case WM_NCLBUTTONDOWN:
+    case WM_NCRBUTTONDOWN:
+    case WM_KEYDOWN:
+    case WM_LBUTTONDOWN:
+    case WM_RBUTTONDOWN:
+        return true;
+    default:
+        return false;
+    }
 }
 
 CRect clientRect(const CWnd& window)
@@ -51,23 +67,17 @@ KxToolTip2::KxToolTip2()
 KxToolTip2::~KxToolTip2()
 {
     if (GetSafeHwnd() != nullptr)
-    {
         KillTimer(hideTimer);
-    }
     freeTools();
 }
 
 BOOL KxToolTip2::Create(CWnd* parent)
 {
     if (GetSafeHwnd() != nullptr || parent == nullptr)
-    {
         return FALSE;
-    }
     ownerHandle = parent->GetSafeHwnd();
     if (!CreateEx(0, className, nullptr, WS_POPUP, 0, 0, width, height, ownerHandle, nullptr))
-    {
         return FALSE;
-    }
     SetOwner(parent);
     return TRUE;
 }
@@ -75,9 +85,7 @@ BOOL KxToolTip2::Create(CWnd* parent)
 void KxToolTip2::AddTool(CWnd* window, CString tipText, CPoint point, unsigned long color)
 {
     if (window == nullptr)
-    {
         return;
-    }
     auto record = std::make_unique<Tool>(Tool{tipText, color, point});
     void*& slot = tools[window->GetSafeHwnd()];
     delete static_cast<Tool*>(slot);
@@ -86,12 +94,9 @@ void KxToolTip2::AddTool(CWnd* window, CString tipText, CPoint point, unsigned l
 
 void KxToolTip2::ShowToolTip(HWND window)
 {
-    Hide();
     void* found = nullptr;
-    if (!tools.Lookup(window, found))
-    {
+    if (!hideIfShown() || !tools.Lookup(window, found))
         return;
-    }
     const Tool& tool = *static_cast<const Tool*>(found);
     text = tool.text;
     textColor = tool.color;
@@ -100,10 +105,12 @@ void KxToolTip2::ShowToolTip(HWND window)
 
 void KxToolTip2::Hide()
 {
-    if (GetSafeHwnd() != nullptr && IsWindowVisible())
-    {
-        ShowWindow(SW_HIDE);
-    }
+    hideIfShown();
+}
+
+bool KxToolTip2::hideIfShown()
+{
+    return GetSafeHwnd() == nullptr || !IsWindowVisible() || hideWindow(*this);
 }
 
 void KxToolTip2::SetWidth(int pixels)
@@ -124,46 +131,24 @@ void KxToolTip2::SetLeftOriented(bool left)
 void KxToolTip2::setTimer(unsigned int milliseconds)
 {
     if (GetSafeHwnd() != nullptr)
-    {
         SetTimer(hideTimer, milliseconds, nullptr);
-    }
 }
 
 void KxToolTip2::RelayEvent(MSG* message)
 {
-    if (message == nullptr)
-    {
-        return;
-    }
-    switch (message->message)
-    {
-    case WM_NCLBUTTONDOWN:
-    case WM_NCRBUTTONDOWN:
-    case WM_KEYDOWN:
-    case WM_LBUTTONDOWN:
-    case WM_RBUTTONDOWN:
+    if (message != nullptr && endsTip(message->message))
         Hide();
-        break;
-    default:
-        break;
-    }
 }
 
 BOOL KxToolTip2::PreTranslateMessage(MSG* message)
 {
     if (message == nullptr)
-    {
         return FALSE;
-    }
-    RelayEvent(message);
-    if (message->message == WM_TIMER) // kept on purpose: whichever timer it is
-    {
-        if (GetSafeHwnd() != nullptr)
-        {
-            KillTimer(hideTimer);
-        }
-        Hide();
-    }
+    const bool timer = message->message == WM_TIMER; // kept on purpose: whichever timer it is
+    if (timer && GetSafeHwnd() != nullptr)
+        KillTimer(hideTimer);
+    if ((timer || endsTip(message->message)) && !hideIfShown())
+        return FALSE;
     return CWnd::PreTranslateMessage(message);
 }
 
@@ -197,9 +182,7 @@ void KxToolTip2::OnPaint()
 int KxToolTip2::OnCreate(LPCREATESTRUCT create)
 {
     if (CWnd::OnCreate(create) == -1)
-    {
         return -1;
-    }
     BalloonShape shape = BalloonShape::of(clientRect(*this), leftOriented);
     textRect = shape.text;
 
@@ -222,17 +205,15 @@ int KxToolTip2::OnCreate(LPCREATESTRUCT create)
         return -1;
     }
     if (SetWindowRgn(static_cast<HRGN>(given.GetSafeHandle()), TRUE))
-    {
         given.Detach();
-    }
     font.CreateFont(fontHeight, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, fontName);
     return 0;
 }
 
 void KxToolTip2::OnLButtonDown(UINT flags, CPoint point)
 {
-    Hide();
-    CWnd::OnLButtonDown(flags, point);
+    if (hideIfShown())
+        CWnd::OnLButtonDown(flags, point);
 }
 
 void KxToolTip2::OnKillFocus(CWnd* newWindow)
@@ -242,14 +223,13 @@ void KxToolTip2::OnKillFocus(CWnd* newWindow)
 
 void KxToolTip2::Show(int x, int y)
 {
-    if (GetSafeHwnd() == nullptr)
-    {
+    const HWND window = GetSafeHwnd();
+    if (window == nullptr)
         return;
-    }
     const CSize screen(GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN));
     const CPoint place = BalloonShape::place(CPoint(x, y), CSize(width, height), screen, leftOriented);
-    SetWindowPos(&wndTop, place.x, place.y, width, height, SWP_NOACTIVATE);
-    ShowWindow(SW_SHOW);
+    ::SetWindowPos(window, HWND_TOP, place.x, place.y, width, height, SWP_NOACTIVATE);
+    ::ShowWindow(window, SW_SHOW);
 }
 
 void KxToolTip2::freeTools()

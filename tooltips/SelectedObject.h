@@ -19,9 +19,7 @@ public:
     ~SelectedObject()
     {
         if (previous != nullptr)
-        {
             ::SelectObject(dc, previous);
-        }
     }
 
 private:

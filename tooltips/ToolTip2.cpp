@@ -2,6 +2,7 @@
 #include "oxa/tooltips/ToolTip2.h"
 
 #include "HeldInt.h"
+#include "Hiding.h"
 #include "LineTip.h"
 #include "SelectedObject.h"
 
@@ -25,9 +26,7 @@ CSize extent(CDC& dc, const CFont& font, const CString& text)
 {
     const SelectedObject selected(dc, font);
     if (!text.IsEmpty())
-    {
         return dc.GetTextExtent(text);
-    }
     TEXTMETRIC metrics = {};
     dc.GetTextMetrics(&metrics);
     return CSize(0, metrics.tmHeight);
@@ -64,12 +63,12 @@ CToolTip2::CToolTip2()
 {
 }
 
+CToolTip2::~CToolTip2() = default; // here, so that the module exports it
+
 BOOL CToolTip2::Create(CWnd* parentWindow)
 {
     if (GetSafeHwnd() != nullptr || parentWindow == nullptr)
-    {
         return FALSE;
-    }
     parent = parentWindow;
     parentHandle = parentWindow->GetSafeHwnd();
     shown = 0; // an earlier window may have gone while it was shown
@@ -97,9 +96,7 @@ void CToolTip2::setDisplayTime(int milliseconds)
 int CToolTip2::Show(const CPoint& at)
 {
     if (text.IsEmpty() || shown != 0 || GetSafeHwnd() == nullptr || !::IsWindow(parentHandle))
-    {
         return 0;
-    }
     OnStartTimer();
     point = at;
     shown = 1;
@@ -109,28 +106,28 @@ int CToolTip2::Show(const CPoint& at)
 
 void CToolTip2::Close()
 {
-    if (GetSafeHwnd() != nullptr)
-    {
-        ShowWindow(SW_HIDE);
-    }
+    closeAlive();
+}
+
+bool CToolTip2::closeAlive()
+{
+    if (GetSafeHwnd() != nullptr && !hideWindow(*this))
+        return false;
     shown = 0;
     OnStopTimer();
+    return true;
 }
 
 void CToolTip2::OnStartTimer()
 {
     if (GetSafeHwnd() != nullptr)
-    {
         timerId = SetTimer(closeTimer, static_cast<UINT>(displayTime), nullptr);
-    }
 }
 
 void CToolTip2::OnStopTimer()
 {
     if (GetSafeHwnd() != nullptr)
-    {
         KillTimer(timerId);
-    }
 }
 
 void CToolTip2::OnPaint()
@@ -142,8 +139,8 @@ void CToolTip2::OnPaint()
 void CToolTip2::OnTimer(UINT_PTR id)
 {
     OnStopTimer();
-    Close();
-    CWnd::OnTimer(id);
+    if (closeAlive())
+        CWnd::OnTimer(id);
 }
 
 void CToolTip2::DisplayToolTip(const CPoint& at)
@@ -164,9 +161,7 @@ void CToolTip2::DisplayToolTip(const CPoint& at)
     writeText(dc, boldFont, layout.right, parts.right);
 
     if (!::IsWindow(parentHandle))
-    {
         return; // the parent has gone: the tip stays where it is
-    }
     CRect place = layout.bounds;
     CWnd::FromHandle(parentHandle)->ClientToScreen(&place);
     SetWindowPos(&wndTop, heldInt(place.left + LineTipLayout::shift), heldInt(place.top + LineTipLayout::shift),

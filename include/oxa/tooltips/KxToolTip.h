@@ -11,6 +11,9 @@
 class OXA_API CKxToolTip : public CToolTipCtrl
 {
 public:
+    CKxToolTip();
+    ~CKxToolTip() override;
+
     /// Makes `text` the tip of a whole window (flags TTF_IDISHWND and TTF_SUBCLASS).
     /// @param window the window, not owned; null gives 0
     /// @param text   copied by the control, up to 32,766 characters; LPSTR_TEXTCALLBACK asks the parent by TTN_NEEDTEXT

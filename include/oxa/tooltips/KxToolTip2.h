@@ -82,6 +82,7 @@ private:
     };
 
     void Show(int x, int y);
+    bool hideIfShown(); // false when this object is gone
     void freeTools();
 
     CString className;

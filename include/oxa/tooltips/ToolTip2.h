@@ -17,7 +17,7 @@ public:
     CToolTip2();
     CToolTip2(const CToolTip2&) = delete;
     CToolTip2& operator=(const CToolTip2&) = delete;
-    ~CToolTip2() override = default;
+    ~CToolTip2() override;
 
     /// Makes the fonts and the hidden window.
     /// @param parentWindow the window whose client coordinates `Show` uses, not owned
@@ -54,6 +54,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    bool closeAlive(); // false when this object is gone
     void DisplayToolTip(const CPoint& at);
 
     UINT_PTR timerId;

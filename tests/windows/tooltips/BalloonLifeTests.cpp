@@ -40,9 +40,7 @@ int heapBlockCount()
         PROCESS_HEAP_ENTRY entry = {};
         ::HeapLock(heaps[i]);
         while (::HeapWalk(heaps[i], &entry))
-        {
             blocks += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0;
-        }
         ::HeapUnlock(heaps[i]);
     }
     return blocks;
@@ -211,9 +209,7 @@ TEST(BalloonLife, the_window_gets_a_copy_of_the_region_so_that_no_region_is_dele
         KxToolTip2 tip;
         ASSERT_TRUE(tip.Create(&host));
         for (int i = 0; i < 500; ++i) // takes the handles that were freed on the way
-        {
             others.push_back(::CreateRectRgn(0, 0, 1, 1));
-        }
     }
     for (HRGN region : others)
     {
@@ -228,9 +224,7 @@ TEST(BalloonLife, a_lost_block_is_seen_by_the_count_of_blocks)
     std::vector<std::unique_ptr<CString>> kept;
     kept.reserve(1000);
     for (int i = 0; i < 1000; ++i)
-    {
         kept.push_back(std::make_unique<CString>(L'a', 100));
-    }
     EXPECT_GE(heapBlockCount() - before, 1000);
 }
 
@@ -271,9 +265,7 @@ TEST(BalloonLife, two_hundred_balloons_leave_no_object_behind)
     const int objects = gdiObjectCount();
     const int windows = windowCount();
     for (int i = 0; i < 200; ++i)
-    {
         useBalloonOnce(host);
-    }
     pumpFor(0);
     EXPECT_EQ(objects, gdiObjectCount());
     EXPECT_EQ(windows, windowCount());

@@ -23,7 +23,7 @@ struct BalloonPaint : testing::Test
     {
         if (tip.m_hWnd == nullptr)
         {
-            EXPECT_TRUE(tip.Create(&host));
+            EXPECT_TRUE(tip.Create(&host)); // braces: the macro holds an else
         }
         tip.AddTool(&host, text, CPoint(300, 400), color);
         tip.ShowToolTip(host.m_hWnd);
@@ -39,9 +39,7 @@ public:
     explicit NoHandlesLeft(size_t left)
     {
         while (HRGN region = ::CreateRectRgn(0, 0, 1, 1))
-        {
             taken.push_back(region);
-        }
         for (; left > 0 && !taken.empty(); --left)
         {
             ::DeleteObject(taken.back());
@@ -63,18 +61,14 @@ private:
     void giveBack()
     {
         for (HRGN region : taken)
-        {
             ::DeleteObject(region);
-        }
         taken.clear();
     }
     // A window that comes up now is the message box, which wants handles for itself.
     static LRESULT CALLBACK onWindow(int code, WPARAM wParam, LPARAM lParam)
     {
         if (code == HCBT_CREATEWND && current != nullptr)
-        {
             current->giveBack();
-        }
         return ::CallNextHookEx(nullptr, code, wParam, lParam);
     }
 
@@ -94,9 +88,7 @@ protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
         if (message != starvedIn)
-        {
             return KxToolTip2::WindowProc(message, wParam, lParam);
-        }
         const NoHandlesLeft hunger(left);
         return KxToolTip2::WindowProc(message, wParam, lParam);
     }
@@ -183,12 +175,8 @@ TEST_F(BalloonPaint, takes_the_height_14_of_arial)
                           });
     int different = 0;
     for (int y = inside.top; y < inside.bottom; ++y)
-    {
         for (int x = inside.left; x < inside.right; ++x)
-        {
             different += pixels.at(x, y) != expected.at(x, y);
-        }
-    }
     EXPECT_EQ(0, different);
 }
 

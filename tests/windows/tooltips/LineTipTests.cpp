@@ -361,9 +361,7 @@ TEST_F(LineTip, five_hundred_shows_and_paints_leave_no_object_behind)
     cycle();
     const int objects = gdiObjectCount();
     for (int i = 0; i < 500; ++i)
-    {
         cycle();
-    }
     EXPECT_EQ(objects, gdiObjectCount());
 }
 
@@ -382,9 +380,7 @@ TEST(LineTipLife, two_hundred_tips_leave_no_object_behind)
     const int objects = gdiObjectCount();
     const int windows = windowCount();
     for (int i = 0; i < 200; ++i)
-    {
         cycle();
-    }
     EXPECT_EQ(objects, gdiObjectCount());
     EXPECT_EQ(windows, windowCount());
 }

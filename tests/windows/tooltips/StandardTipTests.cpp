@@ -210,9 +210,7 @@ TEST(StandardTipLife, two_hundred_controls_leave_no_object_behind)
     const int objects = gdiObjectCount();
     const int windows = windowCount();
     for (int i = 0; i < 200; ++i)
-    {
         cycle();
-    }
     EXPECT_EQ(objects, gdiObjectCount());
     EXPECT_EQ(windows, windowCount());
 }

@@ -24,9 +24,7 @@ public:
     ~TipHost() override
     {
         if (GetSafeHwnd() != nullptr)
-        {
             DestroyWindow();
-        }
     }
 };
 
@@ -83,12 +81,8 @@ public:
     {
         int found = 0;
         for (int y = where.top; y < where.bottom; ++y)
-        {
             for (int x = where.left; x < where.right; ++x)
-            {
                 found += wanted(at(x, y));
-            }
-        }
         return found;
     }
 
@@ -120,12 +114,8 @@ private:
     {
         colors.reserve(static_cast<size_t>(width) * static_cast<size_t>(height));
         for (int y = 0; y < height; ++y)
-        {
             for (int x = 0; x < width; ++x)
-            {
                 colors.push_back(::GetPixel(source, x, y));
-            }
-        }
     }
 
     std::vector<COLORREF> colors;
@@ -139,9 +129,7 @@ inline bool pumpFrameworkUntil(const std::function<bool()>& ok)
     {
         MSG message;
         while (::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE))
-        {
             AfxGetThread()->PumpMessage();
-        }
         ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 5, QS_ALLINPUT);
     }
     return ok();
