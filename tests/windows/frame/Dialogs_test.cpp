@@ -105,6 +105,17 @@ void expectEverythingFits(const ShownDialog& dialog)
         EXPECT_LE(size.cx, r.right - r.left) << "control " << GetDlgCtrlID(child);
     }
 }
+/// Saves a picture to be looked at beside the test program, whatever the current folder is.
+bool savePicture(HWND window, const wchar_t* name)
+{
+    wchar_t program[MAX_PATH] = L"";
+    GetModuleFileNameW(nullptr, program, MAX_PATH);
+    std::wstring folder(program);
+    folder.resize(folder.rfind(L'\\') + 1);
+    folder += L"pictures";
+    CreateDirectoryW(folder.c_str(), nullptr);
+    return saveWindowPng(window, (folder + L'\\' + name).c_str());
+}
 } // namespace
 
 TEST(Dialogs, have_the_sizes_and_captions_of_the_library)
@@ -176,7 +187,7 @@ TEST(Dialogs, units_dialog_has_its_controls)
     EXPECT_TRUE(dialog.style(1047) & WS_DISABLED);
     EXPECT_FALSE(dialog.style(1014) & CBS_SORT); // the names keep the order in which they are added
     expectEverythingFits(dialog);
-    saveWindowPng(dialog.window(), L"dialog-22005.png");
+    EXPECT_TRUE(savePicture(dialog.window(), L"dialog-22005.png"));
 }
 
 TEST(Dialogs, units_dialog_keeps_its_buttons_clear_of_the_grid_that_grows_downward)
@@ -204,7 +215,7 @@ TEST(Dialogs, style_dialog_has_its_controls)
     EXPECT_EQ(dialog.text(IDCANCEL), L"Annuler");
     EXPECT_EQ(dialog.item(9), nullptr);
     expectEverythingFits(dialog);
-    saveWindowPng(dialog.window(), L"dialog-22006.png");
+    EXPECT_TRUE(savePicture(dialog.window(), L"dialog-22006.png"));
 }
 
 TEST(Dialogs, visualisation_has_frame_label_and_a_list_with_multiple_selection)
@@ -218,7 +229,7 @@ TEST(Dialogs, visualisation_has_frame_label_and_a_list_with_multiple_selection)
     EXPECT_TRUE(dialog.style(1004) & LBS_MULTIPLESEL);
     EXPECT_FALSE(dialog.style(1004) & LBS_SORT);
     EXPECT_EQ(dialog.item(-1), nullptr); // the selection dialog asks for it and must live without
-    saveWindowPng(dialog.window(), L"dialog-22007.png");
+    EXPECT_TRUE(savePicture(dialog.window(), L"dialog-22007.png"));
 }
 
 TEST(Dialogs, destination_dialog_shows_a_tree_of_directories)
@@ -229,7 +240,7 @@ TEST(Dialogs, destination_dialog_shows_a_tree_of_directories)
     EXPECT_EQ(dialog.className(1342), L"SysTreeView32");
     EXPECT_EQ(dialog.className(1344), L"Edit");
     expectEverythingFits(dialog);
-    saveWindowPng(dialog.window(), L"dialog-22020.png");
+    EXPECT_TRUE(savePicture(dialog.window(), L"dialog-22020.png"));
 }
 
 TEST(Dialogs, help_ids_name_the_texts_that_are_filed)

@@ -1,5 +1,6 @@
 // What the library exports: classes, and one plain function.
 #include <gtest/gtest.h>
+#include <set>
 #include <string>
 #include <vector>
 #include "LibraryUnderTest.h"
@@ -28,7 +29,81 @@ bool belongsToAClass(const std::string& name)
             return true;
     return false;
 }
+std::string counted(const std::string& name)
+{
+    return std::to_string(name.size()) + name;
+}
+
+/// The decorated name of a member function without arguments, or of a static data member.
+std::string function(const std::string& owner, const char* name)
+{
+    return "_ZN" + counted(owner) + counted(name) + "Ev";
+}
+std::string constFunction(const std::string& owner, const char* name)
+{
+    return "_ZNK" + counted(owner) + counted(name) + "Ev";
+}
+std::string data(const std::string& owner, const std::string& name)
+{
+    return "_ZN" + counted(owner) + counted(name) + "E";
+}
+
+/// The exported names, to be asked for one by one.
+class ExportedNames
+{
+public:
+    explicit ExportedNames(HMODULE module)
+    {
+        for (const std::string& name : exportsOf(module))
+            m_names.insert(name);
+    }
+    bool has(const std::string& name) const { return m_names.count(name) != 0; }
+    bool hasStart(const std::string& start) const
+    {
+        const auto first = m_names.lower_bound(start);
+        return first != m_names.end() && first->rfind(start, 0) == 0;
+    }
+
+private:
+    std::set<std::string> m_names;
+};
 } // namespace
+
+TEST(Exports, every_class_has_its_constructor_destructor_and_virtual_table)
+{
+    const LibraryUnderTest library;
+    const ExportedNames names(library.module());
+    for (const char* owner : {"CKxComboBoxUnit", "KxToolTip2", "CToolTip2", "CKxToolTip", "CKxFormat", "CKxGroup",
+                              "CKxSeparator", "CKxSemantic", "CKxSemanticNode"})
+    {
+        EXPECT_TRUE(names.hasStart("_ZN" + counted(owner) + "C1E")) << owner;
+        EXPECT_TRUE(names.has("_ZN" + counted(owner) + "D1Ev")) << owner;
+        EXPECT_TRUE(names.has("_ZTV" + counted(owner))) << owner;
+    }
+}
+
+TEST(Exports, classes_with_a_message_map_have_both_of_its_functions)
+{
+    const LibraryUnderTest library;
+    const ExportedNames names(library.module());
+    for (const char* owner : {"CKxComboBoxUnit", "KxToolTip2", "CToolTip2"})
+    {
+        EXPECT_TRUE(names.has(constFunction(owner, "GetMessageMap"))) << owner;
+        EXPECT_TRUE(names.has(function(owner, "GetThisMessageMap"))) << owner;
+    }
+}
+
+TEST(Exports, classes_with_dynamic_type_information_have_their_record_and_its_functions)
+{
+    const LibraryUnderTest library;
+    const ExportedNames names(library.module());
+    for (const std::string owner : {"CKxComboBoxUnit", "CKxGroup", "CKxSeparator"})
+    {
+        EXPECT_TRUE(names.has(function(owner, "GetThisClass"))) << owner;
+        EXPECT_TRUE(names.has(constFunction(owner, "GetRuntimeClass"))) << owner;
+        EXPECT_TRUE(names.has(data(owner, "class" + owner))) << owner; // classCKxComboBoxUnit, ...
+    }
+}
 
 TEST(Exports, are_class_members_and_the_one_plain_function)
 {

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <atomic>
 #include <memory>
+#include <new>
 #include <string>
 #include <thread>
 #include <vector>
@@ -18,14 +19,15 @@ constexpr char c_termName[] = "_Z22AfxTermExtensionModule";
 constexpr char c_chainName[] = "_ZN15CDynLinkLibraryC1E";
 
 int s_initCalls, s_termCalls, s_chainCalls;
-BOOL s_termAll;
-HMODULE s_initModule;
+BOOL s_termAll, s_chainSystem;
+HMODULE s_initModule, s_chainModule;
+bool s_accepts;
 
-BOOL refuse(AFX_EXTENSION_MODULE&, HMODULE module)
+BOOL judge(AFX_EXTENSION_MODULE& state, HMODULE module)
 {
     ++s_initCalls;
     s_initModule = module;
-    return FALSE;
+    return s_accepts && AfxInitExtensionModule(state, module);
 }
 
 void countTerm(AFX_EXTENSION_MODULE& state, BOOL all)
@@ -35,9 +37,12 @@ void countTerm(AFX_EXTENSION_MODULE& state, BOOL all)
     AfxTermExtensionModule(state, all);
 }
 
-void countChain(void*, AFX_EXTENSION_MODULE&, BOOL)
+void countChain(void* object, AFX_EXTENSION_MODULE& state, BOOL system)
 {
     ++s_chainCalls;
+    s_chainModule = state.hModule;
+    s_chainSystem = system;
+    ::new (object) CDynLinkLibrary(state, system);
 }
 
 // The loader tells of a module after its imports are bound and before its entry runs.
@@ -53,7 +58,8 @@ using Callback = void(CALLBACK*)(ULONG, const Notification*, void*);
 using Register = LONG(NTAPI*)(ULONG, Callback, void*, void**);
 using Unregister = LONG(NTAPI*)(void*);
 
-struct RefusingFramework
+/// A framework layer between the library and the real one, which it passes on to or refuses for.
+struct WatchedFramework
 {
     std::vector<std::unique_ptr<ImportPatch>> patches;
     void* cookie = nullptr;
@@ -62,30 +68,32 @@ struct RefusingFramework
     {
         return reinterpret_cast<T>(reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), name)));
     }
-    RefusingFramework()
+    explicit WatchedFramework(bool accepts)
     {
+        s_accepts = accepts;
+        s_chainSystem = TRUE;
         s_initCalls = s_termCalls = s_chainCalls = 0;
         ntdll<Register>("LdrRegisterDllNotification")(0, onModule, this, &cookie);
     }
-    ~RefusingFramework()
+    ~WatchedFramework()
     {
         ntdll<Unregister>("LdrUnregisterDllNotification")(cookie);
         for (const auto& patch : patches)
             patch->forget();
     }
-    RefusingFramework(const RefusingFramework&) = delete;
-    RefusingFramework& operator=(const RefusingFramework&) = delete;
+    WatchedFramework(const WatchedFramework&) = delete;
+    WatchedFramework& operator=(const WatchedFramework&) = delete;
 
     static void CALLBACK onModule(ULONG reason, const Notification* what, void* self)
     {
         const std::wstring name(what->baseName->Buffer, what->baseName->Length / sizeof(wchar_t));
         if (reason != 1 || lstrcmpiW(name.c_str(), L"Oxa10.dll") != 0)
             return;
-        auto& patches = static_cast<RefusingFramework*>(self)->patches;
+        auto& patches = static_cast<WatchedFramework*>(self)->patches;
         const auto module = static_cast<HMODULE>(what->base);
         auto patch = [&](const char* import, auto function)
         { patches.push_back(std::make_unique<ImportPatch>(module, import, reinterpret_cast<const void*>(function))); };
-        patch(c_initName, refuse);
+        patch(c_initName, judge);
         patch(c_termName, countTerm);
         patch(c_chainName, countChain);
     }
@@ -119,7 +127,7 @@ ProjectName projectNameOf(HMODULE module)
 TEST(Module, attach_with_a_framework_that_refuses_fails_the_load_and_makes_no_library_record)
 {
     ASSERT_EQ(GetModuleHandleW(L"Oxa10.dll"), nullptr);
-    const RefusingFramework framework;
+    const WatchedFramework framework(false);
     const HMODULE module = LoadLibraryW(L"Oxa10.dll");
     const DWORD error = GetLastError();
     EXPECT_EQ(module, nullptr);
@@ -137,6 +145,22 @@ TEST(Module, after_a_refused_load_the_next_one_succeeds)
 {
     const LibraryUnderTest library;
     EXPECT_NE(library.module(), nullptr);
+}
+
+TEST(Module, attach_makes_one_library_record_that_is_no_system_one_for_its_own_instance)
+{
+    const WatchedFramework framework(true);
+    LibraryUnderTest library;
+    ASSERT_NE(library.module(), nullptr);
+    EXPECT_EQ(s_initCalls, 1);
+    EXPECT_EQ(s_initModule, library.module());
+    EXPECT_EQ(s_chainCalls, 1);
+    EXPECT_EQ(s_chainModule, library.module());
+    EXPECT_EQ(s_chainSystem, FALSE);
+    EXPECT_EQ(s_termCalls, 0);
+    library.unload();
+    EXPECT_EQ(s_termCalls, 1);
+    EXPECT_EQ(s_chainCalls, 1);
 }
 
 TEST(Module, attach_joins_the_chain_through_which_the_host_finds_resources)
@@ -169,13 +193,14 @@ TEST(Module, thread_reasons_return_1_and_touch_nothing)
     const LibraryUnderTest library;
     ASSERT_NE(library.module(), nullptr);
     s_initCalls = s_termCalls = s_chainCalls = 0;
-    const ImportPatch init(library.module(), c_initName, reinterpret_cast<const void*>(refuse));
+    const ImportPatch init(library.module(), c_initName, reinterpret_cast<const void*>(judge));
     const ImportPatch term(library.module(), c_termName, reinterpret_cast<const void*>(countTerm));
     const ImportPatch chain(library.module(), c_chainName, reinterpret_cast<const void*>(countChain));
     ASSERT_TRUE(init.found() && term.found() && chain.found());
     const Entry entry = entryOf(library.module());
     EXPECT_EQ(entry(library.module(), DLL_THREAD_ATTACH, nullptr), TRUE);
     EXPECT_EQ(entry(library.module(), DLL_THREAD_DETACH, nullptr), TRUE);
+    EXPECT_EQ(entry(library.module(), 7, nullptr), TRUE); // as any other
     std::thread([] {}).join();
     EXPECT_EQ(s_initCalls, 0);
     EXPECT_EQ(s_termCalls, 0);
