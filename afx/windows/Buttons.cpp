@@ -6,6 +6,7 @@
 
 using kx::ask;
 using kx::createControl;
+using kx::drawReflected;
 
 namespace
 {
@@ -121,10 +122,7 @@ void CButton::DrawItem(LPDRAWITEMSTRUCT /*lpDrawItemStruct*/) {}
 
 BOOL CButton::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
-    if (message != WM_DRAWITEM)
-        return CWnd::OnChildNotify(message, wParam, lParam, pResult);
-    DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-    return TRUE;
+    return drawReflected(*this, message, lParam) || CWnd::OnChildNotify(message, wParam, lParam, pResult);
 }
 
 CBitmapButton::CBitmapButton() = default;

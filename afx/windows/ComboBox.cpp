@@ -4,10 +4,10 @@
 #include "Ask.h"
 #include "ControlParts.h"
 
-using kx::answer;
 using kx::ask;
 using kx::createControl;
 using kx::itemText;
+using kx::ownerDrawn;
 
 IMPLEMENT_DYNAMIC(CComboBox, CWnd)
 
@@ -275,21 +275,5 @@ void CComboBox::DeleteItem(LPDELETEITEMSTRUCT /*lpDeleteItemStruct*/) {}
 
 BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
-    switch (message)
-    {
-    case WM_DRAWITEM:
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_MEASUREITEM:
-        MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_COMPAREITEM:
-        answer(pResult, CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam)));
-        return TRUE;
-    case WM_DELETEITEM:
-        DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
-        return TRUE;
-    default:
-        return CWnd::OnChildNotify(message, wParam, lParam, pResult);
-    }
+    return ownerDrawn(*this, message, lParam, pResult) || CWnd::OnChildNotify(message, wParam, lParam, pResult);
 }

@@ -2,7 +2,7 @@
 #pragma once
 #include <afxcmn.h>
 
-#include "Ask.h"
+#include "ControlParts.h"
 #include "TempWnd.h"
 
 #include <cwchar>
@@ -54,15 +54,6 @@ inline CImageList* newImageList(HIMAGELIST handle)
     auto list = std::make_unique<CImageList>();
     list->Attach(handle);
     return list.release();
-}
-
-/// Gives an owner-drawn control its own drawing. FALSE for any other notification.
-template <class Control> BOOL drawReflected(Control& control, UINT message, LPARAM lParam)
-{
-    if (message != WM_DRAWITEM)
-        return FALSE;
-    control.DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-    return TRUE;
 }
 
 } // namespace kx

@@ -37,4 +37,35 @@ inline void answer(LRESULT* result, LRESULT value)
         *result = value;
 }
 
+/// Gives an owner-drawn control its own drawing. FALSE for any other notification.
+template <class Control> BOOL drawReflected(Control& control, UINT message, LPARAM lParam)
+{
+    if (message != WM_DRAWITEM)
+        return FALSE;
+    control.DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+    return TRUE;
+}
+
+/// Gives an owner-drawn list or combo box what its parent was asked for. FALSE for any other notification.
+template <class Control> BOOL ownerDrawn(Control& control, UINT message, LPARAM lParam, LRESULT* result)
+{
+    switch (message)
+    {
+    case WM_DRAWITEM:
+        control.DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+        return TRUE;
+    case WM_MEASUREITEM:
+        control.MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
+        return TRUE;
+    case WM_COMPAREITEM:
+        answer(result, control.CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam)));
+        return TRUE;
+    case WM_DELETEITEM:
+        control.DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
+        return TRUE;
+    default:
+        return FALSE;
+    }
+}
+
 } // namespace kx

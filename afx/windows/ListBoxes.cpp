@@ -8,6 +8,7 @@ using kx::answer;
 using kx::ask;
 using kx::createControl;
 using kx::itemText;
+using kx::ownerDrawn;
 
 IMPLEMENT_DYNAMIC(CListBox, CWnd)
 
@@ -267,18 +268,6 @@ BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT
 {
     switch (message)
     {
-    case WM_DRAWITEM:
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_MEASUREITEM:
-        MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_COMPAREITEM:
-        answer(pResult, CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam)));
-        return TRUE;
-    case WM_DELETEITEM:
-        DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
-        return TRUE;
     case WM_VKEYTOITEM:
         answer(pResult, VKeyToItem(LOWORD(wParam), HIWORD(wParam)));
         return TRUE;
@@ -286,6 +275,6 @@ BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT
         answer(pResult, CharToItem(LOWORD(wParam), HIWORD(wParam)));
         return TRUE;
     default:
-        return CWnd::OnChildNotify(message, wParam, lParam, pResult);
+        return ownerDrawn(*this, message, lParam, pResult) || CWnd::OnChildNotify(message, wParam, lParam, pResult);
     }
 }

@@ -6,6 +6,7 @@
 
 using kx::ask;
 using kx::createControl;
+using kx::drawReflected;
 
 IMPLEMENT_DYNAMIC(CStatic, CWnd)
 
@@ -65,8 +66,5 @@ void CStatic::DrawItem(LPDRAWITEMSTRUCT /*lpDrawItemStruct*/) {}
 
 BOOL CStatic::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
-    if (message != WM_DRAWITEM)
-        return CWnd::OnChildNotify(message, wParam, lParam, pResult);
-    DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-    return TRUE;
+    return drawReflected(*this, message, lParam) || CWnd::OnChildNotify(message, wParam, lParam, pResult);
 }
