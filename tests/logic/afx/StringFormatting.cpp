@@ -3,6 +3,7 @@
 
 #include <climits>
 #include <cmath>
+#include <initializer_list>
 #include <limits>
 
 #include "Raises.h"
@@ -21,103 +22,133 @@ CString formatted(LPCWSTR format, ...)
     return text;
 }
 
+struct Row
+{
+    CString formatted;
+    const wchar_t* expected;
+};
+
+void check(std::initializer_list<Row> rows)
+{
+    for (const Row& row : rows)
+        EXPECT_EQ(row.formatted, row.expected);
+}
+
 } // namespace
 
 TEST(StringFormatting, plain_text_and_percent)
 {
-    EXPECT_EQ(formatted(L"abc"), L"abc");
-    EXPECT_EQ(formatted(L"100%%"), L"100%");
-    EXPECT_EQ(formatted(L""), L"");
-    EXPECT_EQ(formatted(nullptr), L"");
+    check({
+        {formatted(L"abc"), L"abc"},
+        {formatted(L"100%%"), L"100%"},
+        {formatted(L""), L""},
+        {formatted(nullptr), L""},
+    });
 }
 
 TEST(StringFormatting, signed_integers)
 {
-    EXPECT_EQ(formatted(L"%d", 0), L"0");
-    EXPECT_EQ(formatted(L"%d", -42), L"-42");
-    EXPECT_EQ(formatted(L"%i", INT_MIN), L"-2147483648");
-    EXPECT_EQ(formatted(L"%d", INT_MAX), L"2147483647");
-    EXPECT_EQ(formatted(L"%+d", 5), L"+5");
-    EXPECT_EQ(formatted(L"% d", 5), L" 5");
-    EXPECT_EQ(formatted(L"%+d", -5), L"-5");
+    check({
+        {formatted(L"%d", 0), L"0"},
+        {formatted(L"%d", -42), L"-42"},
+        {formatted(L"%i", INT_MIN), L"-2147483648"},
+        {formatted(L"%d", INT_MAX), L"2147483647"},
+        {formatted(L"%+d", 5), L"+5"},
+        {formatted(L"% d", 5), L" 5"},
+        {formatted(L"%+d", -5), L"-5"},
+    });
 }
 
 TEST(StringFormatting, width_and_flags)
 {
-    EXPECT_EQ(formatted(L"[%5d]", 42), L"[   42]");
-    EXPECT_EQ(formatted(L"[%-5d]", 42), L"[42   ]");
-    EXPECT_EQ(formatted(L"[%05d]", 42), L"[00042]");
-    EXPECT_EQ(formatted(L"[%05d]", -42), L"[-0042]");
-    EXPECT_EQ(formatted(L"[%-05d]", 42), L"[42   ]");
-    EXPECT_EQ(formatted(L"[%+05d]", 42), L"[+0042]");
-    EXPECT_EQ(formatted(L"[%1d]", 4200), L"[4200]");
-    EXPECT_EQ(formatted(L"[%*d]", 5, 42), L"[   42]");
-    EXPECT_EQ(formatted(L"[%*d]", -5, 42), L"[42   ]");
+    check({
+        {formatted(L"[%5d]", 42), L"[   42]"},
+        {formatted(L"[%-5d]", 42), L"[42   ]"},
+        {formatted(L"[%05d]", 42), L"[00042]"},
+        {formatted(L"[%05d]", -42), L"[-0042]"},
+        {formatted(L"[%-05d]", 42), L"[42   ]"},
+        {formatted(L"[%+05d]", 42), L"[+0042]"},
+        {formatted(L"[%1d]", 4200), L"[4200]"},
+        {formatted(L"[%*d]", 5, 42), L"[   42]"},
+        {formatted(L"[%*d]", -5, 42), L"[42   ]"},
+    });
 }
 
 TEST(StringFormatting, integer_precision)
 {
-    EXPECT_EQ(formatted(L"%.3d", 7), L"007");
-    EXPECT_EQ(formatted(L"[%6.3d]", 7), L"[   007]");
-    EXPECT_EQ(formatted(L"[%06.3d]", 7), L"[   007]"); // a precision switches the zeros off
-    EXPECT_EQ(formatted(L"[%.0d]", 0), L"[]");
-    EXPECT_EQ(formatted(L"%.*d", 4, 7), L"0007");
-    EXPECT_EQ(formatted(L"%.*d", -1, 7), L"7");
+    check({
+        {formatted(L"%.3d", 7), L"007"},
+        {formatted(L"[%6.3d]", 7), L"[   007]"},
+        {formatted(L"[%06.3d]", 7), L"[   007]"}, // a precision switches the zeros off
+        {formatted(L"[%.0d]", 0), L"[]"},
+        {formatted(L"%.*d", 4, 7), L"0007"},
+        {formatted(L"%.*d", -1, 7), L"7"},
+    });
 }
 
 TEST(StringFormatting, unsigned_and_other_bases)
 {
-    EXPECT_EQ(formatted(L"%u", 4294967295U), L"4294967295");
-    EXPECT_EQ(formatted(L"%x %X %o", 255, 255, 8), L"ff FF 10");
-    EXPECT_EQ(formatted(L"%#x %#X %#o", 255, 255, 8), L"0xff 0XFF 010");
-    EXPECT_EQ(formatted(L"%#x", 0), L"0");
-    EXPECT_EQ(formatted(L"%08x", 0xBEEF), L"0000beef");
-    EXPECT_EQ(formatted(L"%#08x", 0xBEEF), L"0x00beef");
-    EXPECT_EQ(formatted(L"%x", -1), L"ffffffff");
+    check({
+        {formatted(L"%u", 4294967295U), L"4294967295"},
+        {formatted(L"%x %X %o", 255, 255, 8), L"ff FF 10"},
+        {formatted(L"%#x %#X %#o", 255, 255, 8), L"0xff 0XFF 010"},
+        {formatted(L"%#x", 0), L"0"},
+        {formatted(L"%08x", 0xBEEF), L"0000beef"},
+        {formatted(L"%#08x", 0xBEEF), L"0x00beef"},
+        {formatted(L"%x", -1), L"ffffffff"},
+    });
 }
 
 TEST(StringFormatting, size_prefixes)
 {
-    EXPECT_EQ(formatted(L"%I64d", LLONG_MIN), L"-9223372036854775808");
-    EXPECT_EQ(formatted(L"%lld", LLONG_MAX), L"9223372036854775807");
-    EXPECT_EQ(formatted(L"%I64u", ULLONG_MAX), L"18446744073709551615");
-    EXPECT_EQ(formatted(L"%I64x", 0x123456789ABCDEFULL), L"123456789abcdef");
-    EXPECT_EQ(formatted(L"%zu", static_cast<std::size_t>(5000000000U)), L"5000000000");
-    EXPECT_EQ(formatted(L"%Iu", static_cast<std::size_t>(5000000000U)), L"5000000000");
-    EXPECT_EQ(formatted(L"%I32d", -3), L"-3");
-    EXPECT_EQ(formatted(L"%hd", 65537), L"1");
-    EXPECT_EQ(formatted(L"%hu", 65535), L"65535");
-    EXPECT_EQ(formatted(L"%hhd", 257), L"1");
+    check({
+        {formatted(L"%I64d", LLONG_MIN), L"-9223372036854775808"},
+        {formatted(L"%lld", LLONG_MAX), L"9223372036854775807"},
+        {formatted(L"%I64u", ULLONG_MAX), L"18446744073709551615"},
+        {formatted(L"%I64x", 0x123456789ABCDEFULL), L"123456789abcdef"},
+        {formatted(L"%zu", static_cast<std::size_t>(5000000000U)), L"5000000000"},
+        {formatted(L"%Iu", static_cast<std::size_t>(5000000000U)), L"5000000000"},
+        {formatted(L"%I32d", -3), L"-3"},
+        {formatted(L"%hd", 65537), L"1"},
+        {formatted(L"%hu", 65535), L"65535"},
+        {formatted(L"%hhd", 257), L"1"},
+    });
 }
 
 TEST(StringFormatting, a_long_has_32_bits)
 {
-    EXPECT_EQ(formatted(L"%ld", static_cast<LONG>(-7)), L"-7");
-    EXPECT_EQ(formatted(L"%lu", static_cast<DWORD>(4000000000U)), L"4000000000");
-    EXPECT_EQ(formatted(L"%lX", static_cast<COLORREF>(0x00FF8000)), L"FF8000");
+    check({
+        {formatted(L"%ld", static_cast<LONG>(-7)), L"-7"},
+        {formatted(L"%lu", static_cast<DWORD>(4000000000U)), L"4000000000"},
+        {formatted(L"%lX", static_cast<COLORREF>(0x00FF8000)), L"FF8000"},
+    });
 }
 
 TEST(StringFormatting, wide_and_narrow_texts)
 {
-    EXPECT_EQ(formatted(L"%s", L"wide"), L"wide");
-    EXPECT_EQ(formatted(L"%S", "narrow"), L"narrow");
-    EXPECT_EQ(formatted(L"%hs", "narrow"), L"narrow");
-    EXPECT_EQ(formatted(L"%hS", "narrow"), L"narrow");
-    EXPECT_EQ(formatted(L"%ls", L"wide"), L"wide");
-    EXPECT_EQ(formatted(L"%lS", L"wide"), L"wide");
-    EXPECT_EQ(formatted(L"%ws", L"wide"), L"wide");
-    EXPECT_EQ(formatted(L"%s", static_cast<LPCWSTR>(nullptr)), L"(null)");
-    EXPECT_EQ(formatted(L"%S", static_cast<LPCSTR>(nullptr)), L"(null)");
+    check({
+        {formatted(L"%s", L"wide"), L"wide"},
+        {formatted(L"%S", "narrow"), L"narrow"},
+        {formatted(L"%hs", "narrow"), L"narrow"},
+        {formatted(L"%hS", "narrow"), L"narrow"},
+        {formatted(L"%ls", L"wide"), L"wide"},
+        {formatted(L"%lS", L"wide"), L"wide"},
+        {formatted(L"%ws", L"wide"), L"wide"},
+        {formatted(L"%s", static_cast<LPCWSTR>(nullptr)), L"(null)"},
+        {formatted(L"%S", static_cast<LPCSTR>(nullptr)), L"(null)"},
+    });
 }
 
 TEST(StringFormatting, text_width_and_precision)
 {
-    EXPECT_EQ(formatted(L"[%6s]", L"ab"), L"[    ab]");
-    EXPECT_EQ(formatted(L"[%-6s]", L"ab"), L"[ab    ]");
-    EXPECT_EQ(formatted(L"[%.2s]", L"abcdef"), L"[ab]");
-    EXPECT_EQ(formatted(L"[%5.2S]", "abcdef"), L"[   ab]");
-    EXPECT_EQ(formatted(L"[%.*s]", 3, L"abcdef"), L"[abc]");
-    EXPECT_EQ(formatted(L"[%.0s]", L"abc"), L"[]");
+    check({
+        {formatted(L"[%6s]", L"ab"), L"[    ab]"},
+        {formatted(L"[%-6s]", L"ab"), L"[ab    ]"},
+        {formatted(L"[%.2s]", L"abcdef"), L"[ab]"},
+        {formatted(L"[%5.2S]", "abcdef"), L"[   ab]"},
+        {formatted(L"[%.*s]", 3, L"abcdef"), L"[abc]"},
+        {formatted(L"[%.0s]", L"abc"), L"[]"},
+    });
     const wchar_t unterminated[2] = {L'x', L'y'};
     EXPECT_EQ(formatted(L"%.2s", unterminated), L"xy");
 }
@@ -148,67 +179,77 @@ TEST(StringFormatting, pointers_are_sixteen_digits)
 
 TEST(StringFormatting, fixed_point)
 {
-    EXPECT_EQ(formatted(L"%f", 1.5), L"1.500000");
-    EXPECT_EQ(formatted(L"%.2f", 3.14159), L"3.14");
-    EXPECT_EQ(formatted(L"%.0f", 3.0), L"3");
-    EXPECT_EQ(formatted(L"%#.0f", 3.0), L"3.");
-    EXPECT_EQ(formatted(L"%.3f", 0.00123), L"0.001");
-    EXPECT_EQ(formatted(L"%.1f", 0.04), L"0.0");
-    EXPECT_EQ(formatted(L"%.1f", 0.96), L"1.0");
-    EXPECT_EQ(formatted(L"%.2f", 999.996), L"1000.00");
-    EXPECT_EQ(formatted(L"[%8.2f]", -1.5), L"[   -1.50]");
-    EXPECT_EQ(formatted(L"[%08.2f]", -1.5), L"[-0001.50]");
-    EXPECT_EQ(formatted(L"%+.1f", 2.0), L"+2.0");
-    EXPECT_EQ(formatted(L"%f", 0.0), L"0.000000");
-    EXPECT_EQ(formatted(L"%.1f", -0.0), L"-0.0");
-    EXPECT_EQ(formatted(L"%.0f", 1e22), L"10000000000000000000000");
+    check({
+        {formatted(L"%f", 1.5), L"1.500000"},
+        {formatted(L"%.2f", 3.14159), L"3.14"},
+        {formatted(L"%.0f", 3.0), L"3"},
+        {formatted(L"%#.0f", 3.0), L"3."},
+        {formatted(L"%.3f", 0.00123), L"0.001"},
+        {formatted(L"%.1f", 0.04), L"0.0"},
+        {formatted(L"%.1f", 0.96), L"1.0"},
+        {formatted(L"%.2f", 999.996), L"1000.00"},
+        {formatted(L"[%8.2f]", -1.5), L"[   -1.50]"},
+        {formatted(L"[%08.2f]", -1.5), L"[-0001.50]"},
+        {formatted(L"%+.1f", 2.0), L"+2.0"},
+        {formatted(L"%f", 0.0), L"0.000000"},
+        {formatted(L"%.1f", -0.0), L"-0.0"},
+        {formatted(L"%.0f", 1e22), L"10000000000000000000000"},
+    });
 }
 
 TEST(StringFormatting, halves_go_away_from_zero)
 {
-    EXPECT_EQ(formatted(L"%.0f", 0.5), L"1");
-    EXPECT_EQ(formatted(L"%.0f", 1.5), L"2");
-    EXPECT_EQ(formatted(L"%.0f", 2.5), L"3");
-    EXPECT_EQ(formatted(L"%.0f", -2.5), L"-3");
-    EXPECT_EQ(formatted(L"%.2f", 0.125), L"0.13");
-    EXPECT_EQ(formatted(L"%.1e", 2.25), L"2.3e+000");
-    EXPECT_EQ(formatted(L"%.2g", 0.125), L"0.13");
-    EXPECT_EQ(formatted(L"%.2f", 1.005), L"1.00"); // the nearest double lies below
+    check({
+        {formatted(L"%.0f", 0.5), L"1"},
+        {formatted(L"%.0f", 1.5), L"2"},
+        {formatted(L"%.0f", 2.5), L"3"},
+        {formatted(L"%.0f", -2.5), L"-3"},
+        {formatted(L"%.2f", 0.125), L"0.13"},
+        {formatted(L"%.1e", 2.25), L"2.3e+000"},
+        {formatted(L"%.2g", 0.125), L"0.13"},
+        {formatted(L"%.2f", 1.005), L"1.00"}, // the nearest double lies below
+    });
 }
 
 TEST(StringFormatting, exponents_have_three_digits)
 {
-    EXPECT_EQ(formatted(L"%e", 12345.678), L"1.234568e+004");
-    EXPECT_EQ(formatted(L"%.2E", 0.00012), L"1.20E-004");
-    EXPECT_EQ(formatted(L"%.0e", 5.0), L"5e+000");
-    EXPECT_EQ(formatted(L"%e", 0.0), L"0.000000e+000");
-    EXPECT_EQ(formatted(L"%.1e", 9.96), L"1.0e+001");
-    EXPECT_EQ(formatted(L"%.3e", 1e300), L"1.000e+300");
+    check({
+        {formatted(L"%e", 12345.678), L"1.234568e+004"},
+        {formatted(L"%.2E", 0.00012), L"1.20E-004"},
+        {formatted(L"%.0e", 5.0), L"5e+000"},
+        {formatted(L"%e", 0.0), L"0.000000e+000"},
+        {formatted(L"%.1e", 9.96), L"1.0e+001"},
+        {formatted(L"%.3e", 1e300), L"1.000e+300"},
+    });
 }
 
 TEST(StringFormatting, general_notation)
 {
-    EXPECT_EQ(formatted(L"%g", 100000.0), L"100000");
-    EXPECT_EQ(formatted(L"%g", 1000000.0), L"1e+006");
-    EXPECT_EQ(formatted(L"%g", 0.0001), L"0.0001");
-    EXPECT_EQ(formatted(L"%g", 0.00001), L"1e-005");
-    EXPECT_EQ(formatted(L"%g", 1.5), L"1.5");
-    EXPECT_EQ(formatted(L"%g", 0.0), L"0");
-    EXPECT_EQ(formatted(L"%#g", 1.5), L"1.50000");
-    EXPECT_EQ(formatted(L"%.3g", 1234.5), L"1.23e+003");
-    EXPECT_EQ(formatted(L"%.0g", 2.0), L"2");
-    EXPECT_EQ(formatted(L"%G", 1e-10), L"1E-010");
-    EXPECT_EQ(formatted(L"%.17g", 0.1), L"0.10000000000000001");
-    EXPECT_EQ(formatted(L"%g", 999999.5), L"1e+006");
+    check({
+        {formatted(L"%g", 100000.0), L"100000"},
+        {formatted(L"%g", 1000000.0), L"1e+006"},
+        {formatted(L"%g", 0.0001), L"0.0001"},
+        {formatted(L"%g", 0.00001), L"1e-005"},
+        {formatted(L"%g", 1.5), L"1.5"},
+        {formatted(L"%g", 0.0), L"0"},
+        {formatted(L"%#g", 1.5), L"1.50000"},
+        {formatted(L"%.3g", 1234.5), L"1.23e+003"},
+        {formatted(L"%.0g", 2.0), L"2"},
+        {formatted(L"%G", 1e-10), L"1E-010"},
+        {formatted(L"%.17g", 0.1), L"0.10000000000000001"},
+        {formatted(L"%g", 999999.5), L"1e+006"},
+    });
 }
 
 TEST(StringFormatting, infinity_and_not_a_number)
 {
     const double infinity = std::numeric_limits<double>::infinity();
-    EXPECT_EQ(formatted(L"%f", infinity), L"1.#INF00");
-    EXPECT_EQ(formatted(L"%f", -infinity), L"-1.#INF00");
-    EXPECT_EQ(formatted(L"%g", infinity), L"1.#INF");
-    EXPECT_EQ(formatted(L"%f", std::numeric_limits<double>::quiet_NaN()), L"1.#QNAN0");
+    check({
+        {formatted(L"%f", infinity), L"1.#INF00"},
+        {formatted(L"%f", -infinity), L"-1.#INF00"},
+        {formatted(L"%g", infinity), L"1.#INF"},
+        {formatted(L"%f", std::numeric_limits<double>::quiet_NaN()), L"1.#QNAN0"},
+    });
 }
 
 TEST(StringFormatting, extreme_numbers)
@@ -235,13 +276,15 @@ TEST(StringFormatting, many_arguments_in_order)
 
 TEST(StringFormatting, unknown_conversions_are_written_as_they_are)
 {
-    EXPECT_EQ(formatted(L"%y"), L"y");
-    EXPECT_EQ(formatted(L"a%"), L"a");
-    EXPECT_EQ(formatted(L"a%-08.3"), L"a");
-    EXPECT_EQ(formatted(L"%l"), L"");
-    EXPECT_EQ(formatted(L"%5%"), L"%");
-    EXPECT_EQ(formatted(L"%1$d"), L"$d");
-    EXPECT_EQ(formatted(L"% "), L"");
+    check({
+        {formatted(L"%y"), L"y"},
+        {formatted(L"a%"), L"a"},
+        {formatted(L"a%-08.3"), L"a"},
+        {formatted(L"%l"), L""},
+        {formatted(L"%5%"), L"%"},
+        {formatted(L"%1$d"), L"$d"},
+        {formatted(L"% "), L""},
+    });
 }
 
 TEST(StringFormatting, the_counting_conversion_writes_nowhere)

@@ -1,6 +1,7 @@
 // The families, their units and factors, and the accessors of a unit.
 #include <gtest/gtest.h>
 
+#include <initializer_list>
 #include <set>
 #include <string>
 
@@ -93,71 +94,75 @@ TEST(Families, titles_are_long)
     EXPECT_EQ(makeUnit(lengths, foot).GetTitle(), L"Pieds");
 }
 
-TEST(Families, exact_lengths)
+/// What one text of a family is worth, and how far the value read may be from that.
+struct Worth
 {
-    EXPECT_EQ(one(lengths, L"1 in"), 0.0254);
-    EXPECT_EQ(one(lengths, L"1 ft"), 0.3048);
-    EXPECT_EQ(one(lengths, L"1 mm"), 0.001);
+    unsigned int family;
+    const wchar_t* text;
+    double value;
+    double tolerance = 0.0;
+};
+
+void check(std::initializer_list<Worth> rows)
+{
+    for (const Worth& row : rows)
+        EXPECT_NEAR(one(row.family, row.text), row.value, row.tolerance)
+            << row.family << " " << CStringA(row.text).GetString();
 }
 
-TEST(Families, exact_masses_and_gravity)
+TEST(Families, factors_that_are_exact_by_definition)
 {
-    EXPECT_EQ(one(masses, L"1 lb"), 0.45359237);
-    EXPECT_EQ(one(masses, L"16 oz"), 0.45359237);
-    EXPECT_EQ(one(masses, L"1 t"), 1000.0);
-    EXPECT_EQ(one(accelerations, L"1 g"), 9.80665);
-    EXPECT_EQ(one(forces, L"1 kgf"), 9.80665);
+    check({
+        {lengths, L"1 in", 0.0254},
+        {lengths, L"1 ft", 0.3048},
+        {lengths, L"1 mm", 0.001},
+        {masses, L"1 lb", 0.45359237},
+        {masses, L"16 oz", 0.45359237},
+        {masses, L"1 t", 1000.0},
+        {accelerations, L"1 g", 9.80665},
+        {forces, L"1 kgf", 9.80665},
+        {forces, L"1 daN", 10.0},
+        {stresses, L"1 bar", 1e5},
+        {moments, L"1 MN.m", 1e6},
+        {times, L"1 h", 3600.0},
+        {times, L"1 j", 86400.0},
+        {energies, L"1 kWh", 3.6e6},
+        {energies, L"1 Btu", 1055.05585262},
+        {dampings, L"1 kN.s/mm", 1e6},
+    });
 }
 
-TEST(Families, forces_computed_from_pound_and_gravity)
+// The tolerance is a few units in the last place.
+TEST(Families, factors_computed_from_pound_gravity_and_inch)
 {
-    EXPECT_DOUBLE_EQ(one(forces, L"1 lbf"), 4.4482216152605);
-    EXPECT_DOUBLE_EQ(one(forces, L"1 kip"), 4448.2216152605);
-    EXPECT_EQ(one(forces, L"1 daN"), 10.0);
-}
-
-TEST(Families, stresses_computed_from_pound_gravity_and_inch)
-{
-    EXPECT_NEAR(one(stresses, L"1 psi"), 6894.757293168361, 1e-9);
-    EXPECT_NEAR(one(stresses, L"1 ksi"), 6894757.293168361, 1e-6);
-    EXPECT_NEAR(one(stresses, L"144 psf"), 6894.757293168361, 1e-9);
-    EXPECT_EQ(one(stresses, L"1 bar"), 1e5);
-    EXPECT_DOUBLE_EQ(one(stresses, L"1 kgf/cm²"), 98066.5);
-}
-
-TEST(Families, moments)
-{
-    EXPECT_DOUBLE_EQ(one(moments, L"1 kip.ft"), 1355.8179483314004);
-    EXPECT_DOUBLE_EQ(one(moments, L"12 lbf.in"), 1.3558179483314004);
-    EXPECT_EQ(one(moments, L"1 MN.m"), 1e6);
+    check({
+        {forces, L"1 lbf", 4.4482216152605, 4e-15},
+        {forces, L"1 kip", 4448.2216152605, 4e-12},
+        {stresses, L"1 psi", 6894.757293168361, 1e-9},
+        {stresses, L"1 ksi", 6894757.293168361, 1e-6},
+        {stresses, L"144 psf", 6894.757293168361, 1e-9},
+        {stresses, L"1 kgf/cm²", 98066.5, 6e-11},
+        {moments, L"1 kip.ft", 1355.8179483314004, 9e-13},
+        {moments, L"12 lbf.in", 1.3558179483314004, 9e-16},
+        {speeds, L"1 mph", 0.44704, 3e-16},
+        {dampings, L"1 lbf.s/in", 175.12683524647636, 1e-11},
+    });
 }
 
 TEST(Families, slug_is_the_mass_that_a_pound_force_speeds_up_by_a_foot_per_second)
 {
-    EXPECT_NEAR(one(masses, L"1 slug"), 14.593902937206364, 1e-13);
-}
-
-TEST(Families, speeds_and_times)
-{
-    EXPECT_DOUBLE_EQ(one(speeds, L"1 mph"), 0.44704);
-    EXPECT_EQ(one(times, L"1 h"), 3600.0);
-    EXPECT_EQ(one(times, L"1 j"), 86400.0);
-}
-
-TEST(Families, energies_and_dampings)
-{
-    EXPECT_EQ(one(energies, L"1 kWh"), 3.6e6);
-    EXPECT_EQ(one(energies, L"1 Btu"), 1055.05585262);
-    EXPECT_EQ(one(dampings, L"1 kN.s/mm"), 1e6);
-    EXPECT_NEAR(one(dampings, L"1 lbf.s/in"), 175.12683524647636, 1e-11);
+    check({{masses, L"1 slug", 14.593902937206364, 1e-13}});
 }
 
 TEST(Families, the_coefficient_leads_from_si_to_the_unit)
 {
-    EXPECT_EQ(makeUnit(lengths, metre).GetCoef(), 1.0);
-    EXPECT_EQ(makeUnit(lengths, millimetre).GetCoef(), 1000.0);
-    EXPECT_EQ(makeUnit(forces, 2).GetCoef(), 0.001);
-    EXPECT_EQ(makeUnit(temperatures, 1).GetCoef(), 1.0);
+    const struct
+    {
+        unsigned int family, range;
+        double coefficient;
+    } rows[] = {{lengths, metre, 1.0}, {lengths, millimetre, 1000.0}, {forces, 2, 0.001}, {temperatures, 1, 1.0}};
+    for (const auto& row : rows)
+        EXPECT_EQ(makeUnit(row.family, row.range).GetCoef(), row.coefficient) << row.family;
 }
 
 TEST(Families, only_inches_and_feet_of_lengths_are_imperial)

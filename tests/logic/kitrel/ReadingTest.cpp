@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <initializer_list>
+#include <string>
 
 #include "UnitSupport.h"
 
@@ -10,124 +12,106 @@ namespace
 
 const CKxUnit inMetres = makeUnit(lengths, metre);
 
+/// A text in a field of a unit, and its value in SI.
+struct Read
+{
+    CKxUnit unit;
+    const wchar_t* text;
+    double value;
+};
+
+std::string narrow(const wchar_t* text)
+{
+    return CStringA(text).GetString();
+}
+
+void check(std::initializer_list<Read> rows)
+{
+    for (const Read& row : rows)
+        EXPECT_EQ(si(row.unit, row.text), row.value) << narrow(row.text);
+}
+
+/// The same, for values that took more than one rounding.
+void checkClose(std::initializer_list<Read> rows)
+{
+    for (const Read& row : rows)
+        EXPECT_DOUBLE_EQ(si(row.unit, row.text), row.value) << narrow(row.text);
+}
+
+void checkRefused(const CKxUnit& unit, std::initializer_list<const wchar_t*> texts)
+{
+    for (const wchar_t* text : texts)
+        EXPECT_FALSE(understands(unit, text)) << narrow(text);
+}
+
 TEST(Reading, a_bare_number_takes_the_unit_of_the_field)
 {
-    EXPECT_EQ(si(inMetres, L"1.5"), 1.5);
-    EXPECT_EQ(si(makeUnit(lengths, millimetre), L"1500"), 1.5);
-    EXPECT_EQ(si(makeUnit(lengths, foot), L"2"), 2 * c_foot);
+    check({
+        {inMetres, L"1.5", 1.5},
+        {makeUnit(lengths, millimetre), L"1500", 1.5},
+        {makeUnit(lengths, foot), L"2", 2 * c_foot},
+    });
 }
 
-TEST(Reading, point_and_comma_are_decimal_signs)
+TEST(Reading, numbers)
 {
-    EXPECT_EQ(si(inMetres, L"2.25"), 2.25);
-    EXPECT_EQ(si(inMetres, L"2,25"), 2.25);
+    check({
+        {inMetres, L"2.25", 2.25},
+        {inMetres, L"2,25", 2.25}, // both are decimal signs
+        {inMetres, L".5", 0.5},    // digits may be missing on one side
+        {inMetres, L",5", 0.5},
+        {inMetres, L"5.", 5.0},
+        {inMetres, L"-1.5", -1.5},
+        {inMetres, L"+1.5", 1.5},
+        {inMetres, L"- 1.5", -1.5},
+        {inMetres, L"1e3", 1000.0},
+        {inMetres, L"1E-2", 0.01},
+        {inMetres, L"2.5e+2", 250.0},
+    });
 }
 
-TEST(Reading, digits_may_be_missing_on_one_side_of_the_decimal_sign)
+TEST(Reading, what_is_no_number)
 {
-    EXPECT_EQ(si(inMetres, L".5"), 0.5);
-    EXPECT_EQ(si(inMetres, L",5"), 0.5);
-    EXPECT_EQ(si(inMetres, L"5."), 5.0);
-}
-
-TEST(Reading, a_decimal_sign_alone_is_no_number)
-{
-    EXPECT_FALSE(understands(inMetres, L"."));
-}
-
-TEST(Reading, two_decimal_signs_are_not_understood)
-{
-    EXPECT_FALSE(understands(inMetres, L"1.5.2"));
-}
-
-TEST(Reading, signs_stand_before_the_number)
-{
-    EXPECT_EQ(si(inMetres, L"-1.5"), -1.5);
-    EXPECT_EQ(si(inMetres, L"+1.5"), 1.5);
-    EXPECT_EQ(si(inMetres, L"- 1.5"), -1.5);
+    checkRefused(inMetres, {L".", L"1.5.2", L"--1", L"1+-2", L"-", L"1+", L"1e"});
 }
 
 TEST(Reading, the_typographic_minus_is_a_minus)
 {
-    EXPECT_EQ(si(inMetres, L"\x2212"
-                           L"2"),
-              -2.0);
+    const wchar_t text[] = {0x2212, L'2', 0};
+    EXPECT_EQ(si(inMetres, text), -2.0);
 }
 
-TEST(Reading, two_signs_are_not_understood)
+TEST(Reading, blanks_and_the_own_symbol)
 {
-    EXPECT_FALSE(understands(inMetres, L"--1"));
-    EXPECT_FALSE(understands(inMetres, L"1+-2"));
-}
-
-TEST(Reading, a_sign_alone_is_not_understood)
-{
-    EXPECT_FALSE(understands(inMetres, L"-"));
-    EXPECT_FALSE(understands(inMetres, L"1+"));
-}
-
-TEST(Reading, exponents)
-{
-    EXPECT_EQ(si(inMetres, L"1e3"), 1000.0);
-    EXPECT_EQ(si(inMetres, L"1E-2"), 0.01);
-    EXPECT_EQ(si(inMetres, L"2.5e+2"), 250.0);
-}
-
-TEST(Reading, an_exponent_without_digits_is_not_understood)
-{
-    EXPECT_FALSE(understands(inMetres, L"1e"));
-}
-
-TEST(Reading, blanks_around_the_text_are_passed_over)
-{
-    EXPECT_EQ(si(inMetres, L" \t 1.5 m  "), 1.5);
-}
-
-TEST(Reading, an_unbreakable_blank_is_a_blank)
-{
-    EXPECT_EQ(si(inMetres, L"1.5\x00A0m"), 1.5);
-}
-
-TEST(Reading, the_own_symbol_with_and_without_blank)
-{
-    EXPECT_EQ(si(inMetres, L"1.5 m"), 1.5);
-    EXPECT_EQ(si(inMetres, L"1.5m"), 1.5);
+    check({
+        {inMetres, L" \t 1.5 m  ", 1.5},
+        {inMetres, L"1.5\x00A0m", 1.5}, // an unbreakable blank is a blank
+        {inMetres, L"1.5 m", 1.5},
+        {inMetres, L"1.5m", 1.5},
+    });
 }
 
 TEST(Reading, another_unit_of_the_family_by_its_symbol)
 {
-    EXPECT_EQ(si(inMetres, L"12 cm"), 0.12);
-    EXPECT_EQ(si(inMetres, L"12 dm"), 1.2);
-    EXPECT_EQ(si(inMetres, L"12mm"), 0.012);
-    EXPECT_EQ(si(inMetres, L"2 km"), 2000.0);
-    EXPECT_EQ(si(inMetres, L"10 in"), 0.254);
-    EXPECT_EQ(si(inMetres, L"10 ft"), 3.048);
+    check({
+        {inMetres, L"12 cm", 0.12},
+        {inMetres, L"12 dm", 1.2},
+        {inMetres, L"12mm", 0.012},
+        {inMetres, L"2 km", 2000.0},
+        {inMetres, L"10 in", 0.254},
+        {inMetres, L"10 ft", 3.048},
+        {inMetres, L"5 \x00B5m", 5e-6}, // both micro signs
+        {inMetres, L"5 \x03BCm", 5e-6},
+        {makeUnit(forces, 0), L"3 MN", 3e6},
+    });
 }
 
-TEST(Reading, both_micro_signs_are_understood)
+TEST(Reading, symbols_are_whole_in_exact_case_and_of_the_family)
 {
-    EXPECT_EQ(si(inMetres, L"5 \x00B5m"), 5e-6);
-    EXPECT_EQ(si(inMetres, L"5 \x03BCm"), 5e-6);
-}
-
-TEST(Reading, symbols_are_in_exact_case)
-{
-    EXPECT_FALSE(understands(makeUnit(forces, 0), L"3 mN"));
-    EXPECT_FALSE(understands(makeUnit(stresses, 0), L"3 mPa"));
-    EXPECT_FALSE(understands(inMetres, L"3 CM"));
-    EXPECT_EQ(si(makeUnit(forces, 0), L"3 MN"), 3e6);
-}
-
-TEST(Reading, a_unit_of_another_family_is_not_understood)
-{
-    EXPECT_FALSE(understands(inMetres, L"3 kN"));
-    EXPECT_FALSE(understands(makeUnit(forces, 2), L"3 m"));
-}
-
-TEST(Reading, letters_behind_a_symbol_are_not_understood)
-{
-    EXPECT_FALSE(understands(inMetres, L"3 inch"));
-    EXPECT_FALSE(understands(inMetres, L"3 mx"));
+    checkRefused(makeUnit(forces, 0), {L"3 mN"});
+    checkRefused(makeUnit(forces, 2), {L"3 m"});
+    checkRefused(makeUnit(stresses, 0), {L"3 mPa"});
+    checkRefused(inMetres, {L"3 CM", L"3 kN", L"3 inch", L"3 mx"});
 }
 
 TEST(Reading, what_is_not_understood_gives_zero_and_the_flag_zero)
@@ -173,101 +157,84 @@ TEST(Reading, with_flag_zero_the_value_is_in_the_unit_itself)
 
 TEST(Reading, sums_and_differences)
 {
-    EXPECT_EQ(si(inMetres, L"1.2+0.3"), 1.5);
-    EXPECT_DOUBLE_EQ(si(inMetres, L"100in+3mm+5cm"), 2.593);
-    EXPECT_EQ(si(inMetres, L"2 - 0.5 + 1"), 2.5);
-    EXPECT_EQ(si(inMetres, L"-1 + 3"), 2.0);
+    check({
+        {inMetres, L"1.2+0.3", 1.5},
+        {inMetres, L"2 - 0.5 + 1", 2.5},
+        {inMetres, L"-1 + 3", 2.0},
+        {makeUnit(lengths, centimetre), L"100 + 1 m", 2.0}, // each bare number takes the unit of the field
+    });
+    checkClose({{inMetres, L"100in+3mm+5cm", 2.593}});
 }
 
-TEST(Reading, in_a_sum_each_bare_number_takes_the_unit_of_the_field)
+TEST(Reading, what_is_no_sum)
 {
-    EXPECT_EQ(si(makeUnit(lengths, centimetre), L"100 + 1 m"), 2.0);
-}
-
-TEST(Reading, terms_without_an_operator_are_not_understood)
-{
-    EXPECT_FALSE(understands(inMetres, L"1 2"));
-}
-
-TEST(Reading, a_sum_with_one_wrong_term_is_not_understood)
-{
-    EXPECT_FALSE(understands(inMetres, L"1 m + 2 kN"));
+    checkRefused(inMetres, {L"1 2", L"1 m + 2 kN"});
 }
 
 TEST(Reading, temperatures_have_their_zero)
 {
     const CKxUnit celsius = makeUnit(temperatures, 1);
-    EXPECT_EQ(si(celsius, L"20"), 293.15);
-    EXPECT_EQ(si(celsius, L"-273.15"), 0.0);
-    EXPECT_DOUBLE_EQ(si(celsius, L"32 °F"), 273.15);
-    EXPECT_EQ(si(celsius, L"300 K"), 300.0);
+    check({{celsius, L"20", 293.15}, {celsius, L"-273.15", 0.0}, {celsius, L"300 K", 300.0}});
+    checkClose({{celsius, L"32 °F", 273.15}});
 }
 
 TEST(Reading, further_terms_of_a_temperature_are_differences)
 {
-    EXPECT_DOUBLE_EQ(si(makeUnit(temperatures, 1), L"20 °C + 5 °C"), 298.15);
-    EXPECT_DOUBLE_EQ(si(makeUnit(temperatures, 1), L"20 °C - 9 °F"), 288.15);
-    EXPECT_DOUBLE_EQ(si(makeUnit(temperatures, 1), L"20 + 5"), 298.15);
+    const CKxUnit celsius = makeUnit(temperatures, 1);
+    checkClose({
+        {celsius, L"20 °C + 5 °C", 298.15},
+        {celsius, L"20 °C - 9 °F", 288.15},
+        {celsius, L"20 + 5", 298.15},
+    });
 }
 
 TEST(Reading, angles_understand_the_degree_sign)
 {
-    EXPECT_DOUBLE_EQ(si(makeUnit(angles, 1), L"180°"), 3.14159265358979323846);
-    EXPECT_DOUBLE_EQ(si(makeUnit(angles, 0), L"200 gr"), 3.14159265358979323846);
+    constexpr double half = 3.14159265358979323846;
+    checkClose({{makeUnit(angles, 1), L"180°", half}, {makeUnit(angles, 0), L"200 gr", half}});
 }
 
 TEST(Reading, feet_and_inch_signs_belong_to_lengths_alone)
 {
-    EXPECT_FALSE(understands(makeUnit(angles, 1), L"5'"));
-    EXPECT_FALSE(understands(makeUnit(forces, 0), L"5\""));
-    EXPECT_FALSE(understands(makeUnit(forces, 0), L"1/2"));
+    checkRefused(makeUnit(angles, 1), {L"5'"});
+    checkRefused(makeUnit(forces, 0), {L"5\"", L"1/2"});
 }
 
-TEST(Reading, squares_may_be_typed_as_a_digit)
+TEST(Reading, symbols_of_several_characters)
 {
-    EXPECT_EQ(si(makeUnit(accelerations, 0), L"9.81 m/s²"), 9.81);
-    EXPECT_EQ(si(makeUnit(accelerations, 0), L"9.81 m/s2"), 9.81);
-    EXPECT_EQ(si(makeUnit(stresses, 0), L"2 N/mm2"), 2e6);
-}
-
-TEST(Reading, the_point_of_a_product_may_be_raised)
-{
-    EXPECT_EQ(si(makeUnit(moments, 0), L"3 kN·m"), 3000.0);
-}
-
-TEST(Reading, the_longest_symbol_counts)
-{
-    EXPECT_EQ(si(makeUnit(speeds, 0), L"36 km/h"), 10.0);
-    EXPECT_EQ(si(makeUnit(times, 0), L"2 min"), 120.0);
-    EXPECT_FALSE(understands(makeUnit(speeds, 0), L"3 m/s2"));
-}
-
-TEST(Reading, a_percentage_is_a_hundredth)
-{
-    EXPECT_EQ(si(makeUnit(numbers, 0), L"5 %"), 0.05);
-    EXPECT_EQ(si(makeUnit(numbers, 1), L"5"), 0.05);
+    check({
+        {makeUnit(accelerations, 0), L"9.81 m/s²", 9.81},
+        {makeUnit(accelerations, 0), L"9.81 m/s2", 9.81}, // squares may be typed as a digit
+        {makeUnit(stresses, 0), L"2 N/mm2", 2e6},
+        {makeUnit(moments, 0), L"3 kN·m", 3000.0}, // the point of a product may be raised
+        {makeUnit(speeds, 0), L"36 km/h", 10.0},   // the longest symbol counts
+        {makeUnit(times, 0), L"2 min", 120.0},
+        {makeUnit(numbers, 0), L"5 %", 0.05}, // a percentage is a hundredth
+        {makeUnit(numbers, 1), L"5", 0.05},
+    });
+    checkRefused(makeUnit(speeds, 0), {L"3 m/s2"});
 }
 
 TEST(Reading, values_are_held_within_the_limits)
 {
-    EXPECT_EQ(si(inMetres, L"1e400"), 1e290);
-    EXPECT_EQ(si(inMetres, L"-1e300"), -1e290);
-    EXPECT_EQ(si(makeUnit(lengths, kilometre), L"1e99999999999999999999"), 1e290);
-    EXPECT_EQ(si(inMetres, L"1e290+1e290"), 1e290);
-}
-
-TEST(Reading, values_too_small_are_zero)
-{
-    EXPECT_EQ(si(inMetres, L"1e-400"), 0.0);
-    EXPECT_EQ(si(inMetres, L"1e-99999999999999999999"), 0.0);
-    EXPECT_EQ(si(inMetres, L"0e99999"), 0.0);
+    check({
+        {inMetres, L"1e400", 1e290},
+        {inMetres, L"-1e300", -1e290},
+        {makeUnit(lengths, kilometre), L"1e99999999999999999999", 1e290},
+        {inMetres, L"1e290+1e290", 1e290},
+        {inMetres, L"1e-400", 0.0}, // too small
+        {inMetres, L"1e-99999999999999999999", 0.0},
+        {inMetres, L"0e99999", 0.0},
+    });
 }
 
 TEST(Reading, many_digits_are_rounded_correctly)
 {
-    EXPECT_EQ(si(inMetres, L"0.1000000000000000055511151231257827"), 0.1);
-    EXPECT_EQ(si(inMetres, L"9007199254740993"), 9007199254740992.0);
-    EXPECT_EQ(si(inMetres, L"123456789012345678901234567890"), 123456789012345678901234567890.0);
+    check({
+        {inMetres, L"0.1000000000000000055511151231257827", 0.1},
+        {inMetres, L"9007199254740993", 9007199254740992.0},
+        {inMetres, L"123456789012345678901234567890", 123456789012345678901234567890.0},
+    });
 }
 
 TEST(Reading, a_terminator_inside_a_string_is_not_understood)
@@ -321,9 +288,7 @@ TEST(Reading, long_chains_that_invite_looking_ahead_are_read_once)
 TEST(Reading, an_own_factor_holds_for_the_own_symbol_and_bare_numbers)
 {
     const CKxUnit unit(forces, 0, 2, L'.', 0.5, 0);
-    EXPECT_EQ(si(unit, L"3"), 6.0);
-    EXPECT_EQ(si(unit, L"3 N"), 6.0);
-    EXPECT_EQ(si(unit, L"3 kN"), 3000.0);
+    check({{unit, L"3", 6.0}, {unit, L"3 N", 6.0}, {unit, L"3 kN", 3000.0}});
 }
 
 } // namespace
