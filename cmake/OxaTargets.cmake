@@ -23,7 +23,7 @@ function(oxa_library)
     if(NOT real)
         set(real oxa_logic)
     endif()
-    target_include_directories(${real} PUBLIC ${CMAKE_SOURCE_DIR}/include)
+    target_include_directories(${real} PUBLIC $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}/include>)
     set_property(GLOBAL PROPERTY OXA_LIBRARY ${real})
 endfunction()
 

@@ -109,6 +109,20 @@ gallery_shots() { # FOLDER
     ls "$folder"/*.png
 }
 
+# The zip, and the first host built from nothing but what was unpacked from it.
+make_sdk() {
+    local folder=build/sdk name=oxa10-sdk triple=x86_64-w64-mingw32
+    rm -rf "$folder" "build/$name.zip"
+    cmake --install build/windows --component sdk --strip --prefix "$folder/$name" || return 1
+    (cd "$folder" && cmake -E tar cf "../$name.zip" --format=zip "$name") || return 1
+    mkdir "$folder/unpacked"
+    (cd "$folder/unpacked" && cmake -E tar xf "../../$name.zip") || return 1
+    cmake -S "$folder/unpacked/$name/first-host" -B "$folder/first-host" -G Ninja \
+        -DCMAKE_SYSTEM_NAME=Windows -DCMAKE_CXX_COMPILER=$triple-g++-posix -DCMAKE_RC_COMPILER=$triple-windres \
+        -DCMAKE_PREFIX_PATH="$PWD/$folder/unpacked/$name" &&
+        cmake --build "$folder/first-host"
+}
+
 # The counts of every test program that ran, from the reports that the programs wrote themselves.
 count_tests() {
     cat build/{native,asan,windows}/test-results/*.xml 2>/dev/null | awk '
