@@ -76,7 +76,7 @@ bool isControlMessage(UINT message, LPARAM lParam)
     if (message == WM_COMMAND)
         return lParam != 0;
     if (message == WM_NOTIFY) // painting by themes is no news
-        return reinterpret_cast<const NMHDR*>(lParam)->code != static_cast<UINT>(NM_CUSTOMDRAW);
+        return lParam != 0 && reinterpret_cast<const NMHDR*>(lParam)->code != static_cast<UINT>(NM_CUSTOMDRAW);
     return message == WM_HSCROLL || message == WM_VSCROLL ||
            (message >= WM_USER && message < 0xC000 && message != WM_USER &&
             message != WM_USER + 1); // not the dialog's own

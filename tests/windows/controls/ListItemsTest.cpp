@@ -60,23 +60,23 @@ public:
 template <class Box> class ListItems : public testing::Test
 {
 protected:
-    using Its = Kind<Box>;
+    using BoxKind = Kind<Box>;
 
     void SetUp() override
     {
-        ASSERT_TRUE(box.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | Its::plain, place, &parent, 5));
+        ASSERT_TRUE(m_box.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | BoxKind::plain, place, &m_parent, 5));
         for (const wchar_t* name : {L"alpha", L"beta", L"gamma", L"delta"})
-            box.AddString(name);
+            m_box.AddString(name);
     }
     std::wstring textOf(int index)
     {
         CString text(L"before");
-        Its::text(box, index, text);
+        BoxKind::text(m_box, index, text);
         return plain(text);
     }
 
-    CParentWindow parent;
-    Box box;
+    CParentWindow m_parent;
+    Box m_box;
 };
 
 using Boxes = testing::Types<CComboBox, CListBox>;
@@ -85,7 +85,7 @@ TYPED_TEST_SUITE(ListItems, Boxes);
 
 TYPED_TEST(ListItems, strings_are_added_inserted_found_and_deleted)
 {
-    auto& box = this->box;
+    auto& box = this->m_box;
     EXPECT_EQ(4, box.GetCount());
     EXPECT_EQ(1, box.InsertString(1, L"aleph"));
     EXPECT_EQ(5, box.InsertString(-1, L"omega"));
@@ -103,8 +103,8 @@ TYPED_TEST(ListItems, strings_are_added_inserted_found_and_deleted)
 
 TYPED_TEST(ListItems, texts_of_any_length_and_of_no_item)
 {
-    using Its = typename TestFixture::Its;
-    auto& box = this->box;
+    using Its = typename TestFixture::BoxKind;
+    auto& box = this->m_box;
     const std::wstring longer(100000, L'z');
     const int index = box.AddString(longer.c_str());
     EXPECT_EQ(100000, Its::length(box, index));
@@ -123,7 +123,7 @@ TYPED_TEST(ListItems, texts_of_any_length_and_of_no_item)
 
 TYPED_TEST(ListItems, data)
 {
-    auto& box = this->box;
+    auto& box = this->m_box;
     EXPECT_NE(failed, box.SetItemData(1, 0x123456789ULL));
     EXPECT_EQ(0x123456789ULL, box.GetItemData(1));
     int value = 0;
@@ -135,7 +135,7 @@ TYPED_TEST(ListItems, data)
 
 TYPED_TEST(ListItems, one_selection)
 {
-    auto& box = this->box;
+    auto& box = this->m_box;
     EXPECT_EQ(failed, box.GetCurSel());
     EXPECT_EQ(3, box.SetCurSel(3));
     EXPECT_EQ(3, box.GetCurSel());
@@ -146,9 +146,9 @@ TYPED_TEST(ListItems, one_selection)
 
 TYPED_TEST(ListItems, owner_drawn_asks_its_class)
 {
-    using Its = typename TestFixture::Its;
+    using Its = typename TestFixture::BoxKind;
     CDrawn<TypeParam> box;
-    ASSERT_TRUE(box.Create(WS_CHILD | WS_VISIBLE | Its::drawn, place, &this->parent, 6));
+    ASSERT_TRUE(box.Create(WS_CHILD | WS_VISIBLE | Its::drawn, place, &this->m_parent, 6));
     for (const UINT_PTR value : {30, 10, 20})
         box.AddString(reinterpret_cast<LPCTSTR>(value));
     EXPECT_EQ(10U, box.GetItemData(0));
@@ -168,6 +168,6 @@ TYPED_TEST(ListItems, without_a_window_everything_is_zero)
     TypeParam box;
     EXPECT_EQ(0, box.GetCount());
     CString text(L"before");
-    TestFixture::Its::text(box, 0, text);
+    TestFixture::BoxKind::text(box, 0, text);
     EXPECT_TRUE(text.IsEmpty());
 }

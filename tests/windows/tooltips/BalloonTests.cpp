@@ -212,6 +212,20 @@ TEST_F(Balloon, keeps_the_tools_of_different_windows_apart)
     EXPECT_TRUE(tip.GetTextLabel() == L"A length");
 }
 
+TEST_F(Balloon, comes_to_the_top_of_the_order_each_time)
+{
+    create();
+    KxToolTip2 other;
+    ASSERT_TRUE(other.Create(&host));
+    other.AddTool(&host, L"Another", CPoint(300, 400), 0);
+    const POINT body = {395, 355};
+    tip.ShowToolTip(host.m_hWnd);
+    other.ShowToolTip(host.m_hWnd);
+    EXPECT_EQ(other.m_hWnd, ::WindowFromPoint(body));
+    tip.ShowToolTip(host.m_hWnd);
+    EXPECT_EQ(tip.m_hWnd, ::WindowFromPoint(body));
+}
+
 TEST_F(Balloon, takes_negative_coordinates_as_0)
 {
     create();
