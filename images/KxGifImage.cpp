@@ -120,7 +120,7 @@ void CKxGifImage::Copy(const CKxGifImage& src, bool bImage, bool bSelection, boo
     if (bImage && m_pDib && src.m_pDib)
         std::memcpy(m_pDib.Get(), src.m_pDib.Get(), std::min(m_pDib.Size(), src.m_pDib.Size()));
     else
-        SetPalette(src.GetPalette(), 256);
+        SetPalette(src.GetPalette(), src.GetNumColors());
     const std::size_t plane = static_cast<std::size_t>(GetWidth()) * GetHeight();
     if (bSelection && src.m_pSelection)
         m_pSelection = copyOfPlane(src.m_pSelection, plane);

@@ -1,7 +1,9 @@
 // DecreaseBpp: what it refuses, what palette comes out, where errors go.
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <climits>
+#include <thread>
 #include <vector>
 #include "ExposedImage.h"
 
@@ -17,6 +19,28 @@ CKxGifImage grayRamp(unsigned long width, unsigned long bpp)
         image.SetPixelColor(x, 0, quad(gray, gray, gray));
     }
     return image;
+}
+
+// Whether the work was stopped, and not done before the other thread came.
+bool stopInTheMiddle()
+{
+    CKxGifImage image(2000, 2000, 24);
+    image.Clear(200);
+    std::atomic<bool> done = false;
+    std::thread other(
+        [&]
+        {
+            while (!done && image.GetProgress() == 0)
+                std::this_thread::yield();
+            if (!done)
+                image.SetEscape(1);
+        });
+    EXPECT_TRUE(image.DecreaseBpp(8, true, nullptr, 0));
+    done = true;
+    other.join();
+    EXPECT_EQ(image.GetBpp(), 8);
+    EXPECT_NE(image.GetPixelIndex(0, 0), 0);
+    return image.GetPixelIndex(0, 1999) == 0;
 }
 } // namespace
 
@@ -238,4 +262,12 @@ TEST(ErrorDiffusion, an_indexed_pixel_that_gets_no_error_is_chosen_anew_all_the_
     const CKxGifImage shared(image);
     ASSERT_TRUE(image.DecreaseBpp(1, true, nullptr, 0));
     EXPECT_EQ(shared.GetPixelIndex(1, 0), 0);
+}
+
+TEST(ColorReduction, is_stopped_from_another_thread)
+{
+    bool stopped = false;
+    for (int i = 0; i < 50 && !stopped; ++i)
+        stopped = stopInTheMiddle();
+    EXPECT_TRUE(stopped);
 }

@@ -289,3 +289,16 @@ TEST(ImageCopies, a_ghost_that_copies_becomes_an_ordinary_image)
     EXPECT_TRUE(owner.IsValid());
     EXPECT_TRUE(ghost.Destroy());
 }
+
+TEST(ImageCopies, a_palette_is_not_read_beyond_its_end_when_the_larger_one_stays)
+{
+    ExposedImage owner(2, 2, 1);
+    owner.SetPaletteColor(1, 1, 2, 3);
+    ExposedImage ghost;
+    ghost.Ghost(&owner);
+    ExposedImage larger(2, 2, 8);
+    larger.SetGrayPalette();
+    larger.Copy(ghost, false, false, false); // refused its size, so that 256 entries meet 2
+    EXPECT_EQ(hex(larger.GetPaletteColor(1)), 0x010203U);
+    EXPECT_EQ(hex(larger.GetPaletteColor(2)), 0x020202U);
+}
