@@ -220,7 +220,10 @@ private:
     bool Flag() { return Index(2) == 0; }
     unsigned char Byte() { return static_cast<unsigned char>(Index(256)); }
     unsigned long Depth() { return std::array{1UL, 4UL, 8UL, 24UL}[Index(4)]; }
-    unsigned long Size() { return Index(40) == 0 ? static_cast<unsigned long>(Number()) : Index(40); }
+    unsigned long Size()
+    {
+        return static_cast<unsigned long>(Index(40) == 0 ? Number() : static_cast<long>(Index(40)));
+    }
     RGBQUAD Color() { return {Byte(), Byte(), Byte(), Byte()}; }
     long Number()
     {
