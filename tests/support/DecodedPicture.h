@@ -75,21 +75,21 @@ struct DecodedPicture
 
     int index(int x, int y) const
     {
-        const std::uint8_t byte = rows[byteOf(x, y)];
+        const std::uint8_t packed = rows[byteOf(x, y)];
         if (depth == 4)
-            return x % 2 == 0 ? byte >> 4 : byte & 15;
+            return x % 2 == 0 ? packed >> 4 : packed & 15;
         if (depth == 1)
-            return byte >> (7 - x % 8) & 1;
-        return byte;
+            return packed >> (7 - x % 8) & 1;
+        return packed;
     }
 
     void setIndex(int x, int y, int value)
     {
-        std::uint8_t& byte = rows[byteOf(x, y)];
+        std::uint8_t& packed = rows[byteOf(x, y)];
         const int bits = depth;
         const int shift = depth == 8 ? 0 : depth == 4 ? (1 - x % 2) * 4 : 7 - x % 8;
         const int mask = (1 << bits) - 1;
-        byte = static_cast<std::uint8_t>((byte & ~(mask << shift)) | ((value & mask) << shift));
+        packed = static_cast<std::uint8_t>((packed & ~(mask << shift)) | ((value & mask) << shift));
     }
 
     void setColour(int x, int y, const std::uint8_t* blueGreenRed)

@@ -106,10 +106,10 @@ private:
             return failed;
         for (int i = 0; i < m_bytesLeft; ++i)
         {
-            const int byte = nextByte(stream);
-            if (byte < 0)
+            const int value = nextByte(stream);
+            if (value < 0)
                 return failed;
-            m_block[i] = static_cast<std::uint8_t>(byte);
+            m_block[i] = static_cast<std::uint8_t>(value);
         }
         return 0;
     }

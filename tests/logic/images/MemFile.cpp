@@ -34,7 +34,7 @@ std::vector<unsigned char> bytes(std::size_t count)
 TEST(MemFile, over_a_null_buffer_is_closed)
 {
     CKxMemFile file;
-    unsigned char byte = 7;
+    unsigned char single = 7;
     EXPECT_EQ(file.Size(), -1);
     EXPECT_EQ(file.Tell(), -1);
     EXPECT_TRUE(file.Eof());
@@ -43,11 +43,11 @@ TEST(MemFile, over_a_null_buffer_is_closed)
     EXPECT_FALSE(file.PutC(1));
     EXPECT_FALSE(file.Flush());
     EXPECT_FALSE(file.Seek(0, 0));
-    EXPECT_EQ(file.Read(&byte, 1, 1), 0U);
-    EXPECT_EQ(file.Write(&byte, 1, 1), 0U);
+    EXPECT_EQ(file.Read(&single, 1, 1), 0U);
+    EXPECT_EQ(file.Write(&single, 1, 1), 0U);
     EXPECT_EQ(file.GetBuffer(false), nullptr);
     EXPECT_TRUE(file.Close());
-    EXPECT_EQ(byte, 7);
+    EXPECT_EQ(single, 7);
 }
 
 TEST(MemFile, over_a_null_buffer_with_a_size_is_closed_too)
