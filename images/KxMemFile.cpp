@@ -178,10 +178,10 @@ bool CKxMemFile::Alloc(unsigned long n)
     const std::uint64_t capacity = ((static_cast<std::uint64_t>(n) >> 12) + 1) << 12;
     if (capacity > static_cast<std::uint64_t>(lastPosition) + 1)
         return false;
-    // The block grows by half at least, so that many small writes do not copy it each time.
-    const std::size_t roomy = m_pData.Size() + m_pData.Size() / 2;
-    if (!m_pData.Grow(std::max(static_cast<std::size_t>(capacity), roomy)) &&
-        !m_pData.Grow(static_cast<std::size_t>(capacity)))
+    // A block that has to grow grows by half at least, so that many small writes do not copy it each time.
+    const auto needed = static_cast<std::size_t>(capacity);
+    const std::size_t roomy = needed > m_pData.Size() ? std::max(needed, m_pData.Size() + m_pData.Size() / 2) : needed;
+    if (!m_pData.Grow(roomy) && !m_pData.Grow(needed))
         return false;
     m_bOwnsData = true;
     m_nCapacity = static_cast<std::uint32_t>(capacity);
