@@ -34,7 +34,6 @@ struct LzwEncoderState
     };
 
     ScratchTable<std::int32_t, HashSize> hashTable; // -1 marks an empty slot
-    ScratchTable<std::uint16_t, HashSize> codeTable;
     std::int32_t codeWidth = 0;   // bits
     std::int16_t highestCode = 0; // at this width
     std::int16_t nextFreeCode = 0;
