@@ -22,9 +22,9 @@ bool GifCodeWriter::Begin(LzwEncoderState& state, BitAccumulator& waiting, int i
     return true;
 }
 
-void GifCodeWriter::AppendByte(LzwEncoderState& state, int byte)
+void GifCodeWriter::AppendByte(LzwEncoderState& state, int value)
 {
-    state.block[static_cast<std::size_t>(state.blockCount)] = static_cast<std::uint8_t>(byte);
+    state.block[static_cast<std::size_t>(state.blockCount)] = static_cast<std::uint8_t>(value);
     if (++state.blockCount >= LzwEncoderState::BlockLength)
         FlushBlock(state);
 }

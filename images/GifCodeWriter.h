@@ -15,7 +15,7 @@ public:
     /// no table of 16-bit codes can begin with.
     static bool Begin(LzwEncoderState& state, BitAccumulator& waiting, int initialBits, CKxMemFile* stream);
     /// Adds a byte to the sub-block, and writes it out when it is full.
-    static void AppendByte(LzwEncoderState& state, int byte);
+    static void AppendByte(LzwEncoderState& state, int value);
     /// Writes out the sub-block, unless it is empty.
     static void FlushBlock(LzwEncoderState& state);
 

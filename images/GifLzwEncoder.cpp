@@ -133,9 +133,9 @@ void CKxGifImage::cl_hash(long size)
     GifHashLayout::Clear(m_lzwEncoder.hashTable, size);
 }
 
-void CKxGifImage::char_out(int byte)
+void CKxGifImage::char_out(int value)
 {
-    GifCodeWriter::AppendByte(m_lzwEncoder, byte);
+    GifCodeWriter::AppendByte(m_lzwEncoder, value);
 }
 
 void CKxGifImage::flush_char()

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace plain
@@ -29,10 +30,10 @@ struct GifBlock
 class GifStream
 {
 public:
-    explicit GifStream(const std::vector<std::uint8_t>& bytes) : m_bytes(bytes)
+    explicit GifStream(std::vector<std::uint8_t> bytes) : m_bytes(std::move(bytes))
     {
-        signature = std::string(bytes.begin(), bytes.begin() + 6);
-        m_next = 6;
+        for (int i = 0; i < 6; ++i)
+            signature += static_cast<char>(byte());
         width = word();
         height = word();
         flags = byte();
@@ -110,7 +111,7 @@ private:
         block.minimumCodeSize = byte();
     }
 
-    const std::vector<std::uint8_t>& m_bytes;
+    std::vector<std::uint8_t> m_bytes;
     std::size_t m_next = 0;
 };
 
