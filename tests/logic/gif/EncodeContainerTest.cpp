@@ -128,7 +128,7 @@ TEST(EncodeContainer, encoding_rewrites_the_graphic_control_block_of_the_object)
     image.SetFrameDelay(300);
     EXPECT_FALSE(plain::encoded(image).empty());
     EXPECT_EQ(image.m_graphicControl.flags, 0x05);
-    EXPECT_EQ(image.m_graphicControl.delay, 300);
+    EXPECT_EQ(int{image.m_graphicControl.delay}, 300);
     EXPECT_EQ(image.m_graphicControl.transparentIndex, 9);
 }
 

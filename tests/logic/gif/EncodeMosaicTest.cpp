@@ -188,7 +188,7 @@ TEST(EncodeMosaic, the_image_itself_is_left_alone)
     EXPECT_FALSE(plain::encoded(image).empty());
     EXPECT_EQ(plain::pictureOf(image).colours, before.colours);
     EXPECT_EQ(image.m_graphicControl.flags, 0x1F);
-    EXPECT_EQ(image.m_graphicControl.delay, 7);
+    EXPECT_EQ(int{image.m_graphicControl.delay}, 7);
     long x = 0;
     long y = 0;
     image.GetOffset(&x, &y);
