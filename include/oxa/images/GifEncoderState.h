@@ -34,8 +34,8 @@ struct LzwEncoderState
     };
 
     ScratchTable<std::int32_t, HashSize> hashTable; // -1 marks an empty slot
-    std::int32_t codeWidth = 0;   // bits
-    std::int16_t highestCode = 0; // at this width
+    std::int32_t codeWidth = 0;                     // bits
+    std::int16_t highestCode = 0;                   // at this width
     std::int16_t nextFreeCode = 0;
     std::int32_t clearFlag = 0;   // set after a table reset
     std::int32_t initialBits = 0; // code width after a clear
