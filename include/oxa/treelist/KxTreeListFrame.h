@@ -1,0 +1,106 @@
+// The frame of the tree list: the window that a dialog holds, with the header, the tree and the horizontal scroll bar.
+#pragma once
+
+#include <afxcmn.h>
+
+#include "oxa/Export.h"
+#include "oxa/treelist/KxTreeListViewCtrl.h"
+
+/// Stands in the place of a custom control of the window class "KORVELTREELISTCTRL" and creates its three children: the
+/// header, the tree (`m_tree`) and the horizontal scroll bar.
+///
+///     CKxTreeListFrame::RegisterClassW();              // once, before the dialog opens
+///     m_list.SubclassDlgItem(IDC_LIST, this);          // in OnInitDialog
+///     m_list.m_tree.InsertColumn(0, L"Name", 0, 120, 0);
+///     HTREEITEM row = m_list.m_tree.InsertItem(L"Beam", TVI_ROOT, TVI_LAST);
+///
+/// A click on a column's header sorts by it: ascending at first, then in turns (the first column ever inserted counts as
+/// sorted ascending already). Dragging a divider, like every insertion of a row, recalculates the scroll bar, and that
+/// cancels an open edit.
+///
+/// Messages that come to the frame's parent: 0x435 and 0x436 of the tree; `WM_CONTEXTMENU` with the `CWnd` of the clicked
+/// window as wParam and 0 as lParam; every `WM_NOTIFY` of the children but the header's clicks and changes; a double click
+/// past the first column. The parent may destroy the frame, and delete it, while it handles one of them.
+class OXA_API CKxTreeListFrame : public CWnd
+{
+    DECLARE_DYNAMIC(CKxTreeListFrame)
+
+public:
+    /// The ids of the children.
+    enum ChildId
+    {
+        ID_HEADER = 337,
+        ID_TREE = 373,
+        ID_SCROLL_BAR = 377
+    };
+
+    CKxTreeListFrame();
+    ~CKxTreeListFrame() override;
+
+    /// Registers the window class "KORVELTREELISTCTRL" for dialog templates. Called again it changes nothing.
+    static void RegisterClassW();
+
+    /// Attaches to the dialog item and creates the children. 1, or 0 when there is no such item.
+    BOOL SubclassDlgItem(UINT id, CWnd* parent);
+
+    /// Creates the children of the attached window; `SubclassDlgItem` calls it. Called again it changes nothing.
+    void Initialize();
+
+    /// Whether the tree has a vertical scroll bar: the upper end of its range isn't 0.
+    BOOL VerticalScrollVisible();
+    /// Whether there is something to scroll horizontally: the upper end of the bar's range isn't 0.
+    BOOL HorizontalScrollVisible();
+
+    /// The next multiple of `b` above `a`, and `a` + `b` when `a` is a multiple already: (`a` / `b` + 1) * `b`. `a` for a
+    /// `b` of 0. Held at the ends of int.
+    int StretchWidth(int a, int b);
+
+    /// Recalculates the horizontal bar from the column widths and the sizes, and cancels an open edit. Every insertion of a
+    /// row calls it.
+    void ResetScrollBar();
+
+    /// Sorts the children of each node of the sibling chain from `first`, and the levels below, by column `col`. Kept on
+    /// purpose: below a node the walk goes on from the child that was first before the sort, so that what was sorted in
+    /// front of it is not visited.
+    void SortTree(int col, int ascending, HTREEITEM first);
+
+    /// The first top-level row whose cell 0 is `text`, by case; null when none is.
+    HTREEITEM GetElementItemByString(CString text);
+
+    /// The child of `parent` (null: the top level) with the cells `name` and `value`, which is added when there is none.
+    HTREEITEM InsertItemIfNecessary(HTREEITEM parent, CString name, int value);
+    /// The same with a numeric value; two values that differ by at most 1e-10, whatever their size, are the same.
+    HTREEITEM InsertItemIfNecessary(HTREEITEM parent, CString name, double value);
+
+    /// Expands each top-level node, none of the levels below.
+    void ExpandTree();
+
+    /// Whether cells may be edited in place. Once the tree exists its style `TVS_EDITLABELS` follows, and the frame's flag
+    /// follows that style.
+    void SetCanModifyLabels(const bool& can);
+    bool GetCanModifyLabels() const;
+
+    /// Whether a click on a header moves rows. The sort images change in any case. True at first.
+    void SetEnableTreeSort(const bool& enable);
+    bool GetCanSortTree() const;
+
+    /// Called before and after the tree handles the left button, with the mouse flags and the point in client coordinates of
+    /// the tree. They do nothing here.
+    virtual void OnTreeListLeftClickBefore(UINT flags, CPoint point);
+    virtual void OnTreeListLeftClickAfter(UINT flags, CPoint point);
+
+    BOOL PreTranslateMessage(MSG* message) override;
+
+    CKxTreeListViewCtrl m_tree; ///< the rows and columns
+
+protected:
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+
+    CScrollBar m_scrollBar;
+    bool m_canModifyLabels = false;
+    bool m_treeSortEnabled = true;
+
+    friend class CKxTreeListViewCtrl; // ResetVertScrollBar serves the frame
+};
