@@ -1,5 +1,5 @@
-// The system's common dialogs as their own functions have them; classes around them are left out on purpose.
+// The system's common dialogs.
 #pragma once
 #include <afxwin.h>
 
-#include <commdlg.h>
+#include "kx/FileDialog.h"
