@@ -5,10 +5,10 @@
 #include <afxcoll.h>
 
 #include <memory>
-#include <vector>
 
 #include "kitrel/KxUnitManager.h"
 #include "oxa/Export.h"
+#include "oxa/treelist/ColumnTables.h"
 #include "oxa/treelist/KxHeaderCtrl.h"
 #include "oxa/treelist/KxTreeListRow.h"
 
@@ -89,7 +89,7 @@ public:
     void SetHeaderCustomDraw(const bool& draw);
     /// Whether cells can be edited in place at all; false at first.
     void SetCanModifyLabels(const bool& can);
-    bool GetCanModifyLabels() const { return m_canModifyLabels; }
+    bool GetCanModifyLabels() const { return m_columns.IsOpen(); }
 
     // Rows
 
@@ -210,10 +210,8 @@ protected:
     int m_columnCount = 0;
     int m_columnsWidth = 0;
     int m_itemCount = 0;
-    std::vector<unsigned char> m_canEdit; ///< one a column, in the order of insertion
-    std::vector<int> m_editStyles;        ///< one a column, in the order of insertion
+    treelist::ColumnTables m_columns; ///< open while labels can be modified
     CKxUnitManager* m_pUnitManager = nullptr;
-    bool m_canModifyLabels = false;
     bool m_headerCustomDraw = false;
 
 private:

@@ -1,0 +1,133 @@
+// The records of a tree list's rows: where they live, and which addresses are records at all.
+#include "RowStore.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace treelist
+{
+
+namespace
+{
+constexpr std::size_t firstSize = 16;
+constexpr std::size_t largestSize = 4096;
+} // namespace
+
+struct RowStore::Place
+{
+    CKxTreeListRow row{0};
+    std::uint32_t rank = 0;
+    bool living = false;
+};
+
+RowStore::RowStore() : m_nextSize(firstSize) {}
+
+RowStore::~RowStore()
+{
+    LeaveLiving();
+}
+
+RowStore::Blocks& RowStore::Left()
+{
+    static Blocks* const left = new Blocks; // never destroyed
+    return *left;
+}
+
+void RowStore::LeaveLiving()
+{
+    const auto hasLiving = [](const Block& block) { return block.living != 0; };
+    std::copy_if(std::make_move_iterator(m_blocks.begin()), std::make_move_iterator(m_blocks.end()),
+                 std::back_inserter(Left()), hasLiving);
+    m_blocks.clear();
+}
+
+const RowStore::Block* RowStore::BlockOf(std::uintptr_t address) const
+{
+    const auto behind = std::upper_bound(m_blocks.begin(), m_blocks.end(), address,
+                                         [](std::uintptr_t sought, const Block& block)
+                                         { return sought < reinterpret_cast<std::uintptr_t>(block.places.get()); });
+    return behind == m_blocks.begin() ? nullptr : &*std::prev(behind);
+}
+
+RowStore::Place* RowStore::PlaceOf(LPARAM address) const
+{
+    const auto sought = static_cast<std::uintptr_t>(address);
+    const Block* const block = BlockOf(sought);
+    if (block == nullptr)
+        return nullptr;
+    const std::uintptr_t offset = sought - reinterpret_cast<std::uintptr_t>(block->places.get());
+    const std::size_t index = offset / sizeof(Place);
+    if (offset % sizeof(Place) != 0 || index >= block->used || !block->places[index].living)
+        return nullptr;
+    return &block->places[index];
+}
+
+RowStore::Block& RowStore::BlockWithRoom()
+{
+    if (m_open != 0)
+    {
+        auto* const open = const_cast<Block*>(BlockOf(m_open));
+        if (open->used < open->size)
+            return *open;
+    }
+    Block fresh;
+    fresh.places = std::make_unique<Place[]>(m_nextSize);
+    fresh.size = m_nextSize;
+    m_nextSize = std::min(m_nextSize * 2, largestSize);
+    const auto address = reinterpret_cast<std::uintptr_t>(fresh.places.get());
+    const auto behind = std::upper_bound(m_blocks.begin(), m_blocks.end(), address,
+                                         [](std::uintptr_t sought, const Block& block)
+                                         { return sought < reinterpret_cast<std::uintptr_t>(block.places.get()); });
+    Block& placed = *m_blocks.insert(behind, std::move(fresh));
+    m_open = address;
+    return placed;
+}
+
+CKxTreeListRow* RowStore::Create(const CKxTreeListRow& row)
+{
+    Block& block = BlockWithRoom();
+    Place& place = block.places[block.used];
+    place.row = row;
+    place.living = true;
+    ++block.used;
+    ++block.living;
+    ++m_living;
+    return &place.row;
+}
+
+CKxTreeListRow* RowStore::Find(LPARAM address) const
+{
+    Place* const place = PlaceOf(address);
+    return place == nullptr ? nullptr : &place->row;
+}
+
+void RowStore::Destroy(LPARAM address)
+{
+    Place* const place = PlaceOf(address);
+    if (place == nullptr)
+        return;
+    place->row = CKxTreeListRow(0);
+    place->living = false;
+    --const_cast<Block*>(BlockOf(static_cast<std::uintptr_t>(address)))->living;
+    --m_living;
+}
+
+void RowStore::Reclaim()
+{
+    LeaveLiving();
+    m_open = 0;
+    m_nextSize = firstSize;
+    m_living = 0;
+}
+
+void RowStore::SetRank(CKxTreeListRow& row, std::uint32_t rank)
+{
+    reinterpret_cast<Place&>(row).rank = rank;
+}
+
+std::uint32_t RowStore::Rank(const CKxTreeListRow& row)
+{
+    return reinterpret_cast<const Place&>(row).rank;
+}
+
+} // namespace treelist
