@@ -2,6 +2,7 @@
 #include <afxwin.h>
 
 #include "ControlParts.h"
+#include "ScrollLimit.h"
 
 using kx::createControl;
 
@@ -72,8 +73,7 @@ int CScrollBar::GetScrollLimit()
     SCROLLINFO info = {};
     if (!GetScrollInfo(&info, SIF_RANGE | SIF_PAGE))
         return 0;
-    const UINT page = info.nPage > 1 ? info.nPage - 1 : 0;
-    return info.nMax - static_cast<int>(page);
+    return kx::scrollLimit(info.nMax, info.nPage);
 }
 
 BOOL CScrollBar::GetScrollBarInfo(PSCROLLBARINFO pScrollInfo) const

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "ScrollLimit.h"
 #include "TempWnd.h"
 
 void CWnd::CheckDlgButton(int id, UINT check)
@@ -141,9 +142,7 @@ int CWnd::GetScrollLimit(int bar)
     int maxPos = 0;
     GetScrollRange(bar, &minPos, &maxPos);
     SCROLLINFO info = {};
-    if (GetScrollInfo(bar, &info, SIF_PAGE) && info.nPage > 1)
-        maxPos -= static_cast<int>(std::min<UINT>(info.nPage - 1, static_cast<UINT>(std::max(maxPos, 0))));
-    return maxPos;
+    return GetScrollInfo(bar, &info, SIF_PAGE) ? kx::scrollLimit(maxPos, info.nPage) : maxPos;
 }
 
 CScrollBar* CWnd::GetScrollBarCtrl(int) const

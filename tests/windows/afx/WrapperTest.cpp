@@ -162,6 +162,10 @@ TEST(Wrappers, scroll_limit_leaves_a_page)
     EXPECT_TRUE(wnd.SetScrollInfo(SB_VERT, &info));
     EXPECT_EQ(wnd.GetScrollPos(SB_VERT), 20);
     EXPECT_EQ(wnd.GetScrollLimit(SB_VERT), 90);
+    info.fMask = SIF_PAGE;
+    info.nPage = 0;
+    EXPECT_TRUE(wnd.SetScrollInfo(SB_VERT, &info));
+    EXPECT_EQ(wnd.GetScrollLimit(SB_VERT), 100) << "without a page: one more than the upper end";
 }
 
 TEST(Wrappers, descendants_are_told_deep_or_shallow)

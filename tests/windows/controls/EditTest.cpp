@@ -206,6 +206,13 @@ TEST(ScrollBar, records_fill_in_their_size)
     EXPECT_EQ(10U, read.nPage);
     EXPECT_EQ(5, read.nPos);
     EXPECT_EQ(90, bar.GetScrollLimit());
+    info.fMask = SIF_PAGE;
+    info.nPage = 1;
+    EXPECT_TRUE(bar.SetScrollInfo(&info));
+    EXPECT_EQ(99, bar.GetScrollLimit());
+    info.nPage = 0;
+    EXPECT_TRUE(bar.SetScrollInfo(&info));
+    EXPECT_EQ(100, bar.GetScrollLimit()) << "without a page: one more than the upper end";
     EXPECT_FALSE(bar.SetScrollInfo(nullptr));
     EXPECT_FALSE(bar.GetScrollInfo(nullptr));
     EXPECT_TRUE(bar.EnableScrollBar(ESB_DISABLE_BOTH));
