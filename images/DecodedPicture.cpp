@@ -1,82 +1,30 @@
 // Turns bytes into pictures by the platform's decoder, and pictures into files.
 #include "DecodedPicture.h"
 
-#include <cstdint>
-#include <cstring>
 #include <limits>
+#include <utility>
 
+#include "GlobalBlock.h"
 #include "PictureData.h"
 
 namespace
 {
-struct FreeBlock
-{
-    void operator()(HGLOBAL block) const { ::GlobalFree(block); }
-};
-using OwnedBlock = std::unique_ptr<void, FreeBlock>;
-
 struct FreeText
 {
     void operator()(BSTR text) const { ::SysFreeString(text); }
 };
 using SystemText = std::unique_ptr<OLECHAR, FreeText>;
 
-struct CloseFile
-{
-    void operator()(HANDLE file) const { ::CloseHandle(file); }
-};
-using OwnedFile = std::unique_ptr<void, CloseFile>;
-
-/// Bytes of a global block, readable until the end of the object.
-class LockedBlock
-{
-public:
-    explicit LockedBlock(HGLOBAL block) : m_block(block), m_bytes(::GlobalLock(block)) {}
-    LockedBlock(const LockedBlock&) = delete;
-    LockedBlock& operator=(const LockedBlock&) = delete;
-    ~LockedBlock()
-    {
-        if (m_bytes != nullptr)
-        {
-            ::GlobalUnlock(m_block);
-        }
-    }
-    void* bytes() const { return m_bytes; }
-
-private:
-    HGLOBAL m_block;
-    void* m_bytes;
-};
-
 SystemText systemText(const CString& text)
 {
     return SystemText(::SysAllocString(text));
 }
 
-OwnedFile openFile(const CString& path, DWORD access, DWORD sharing, DWORD disposition)
+/// A stream that owns the block, or null.
+ComOwner<IStream> streamOver(OwnedBlock block)
 {
-    const HANDLE file = ::CreateFileW(path, access, sharing, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
-    return OwnedFile(file == INVALID_HANDLE_VALUE ? nullptr : file);
-}
-
-/// A stream that owns a copy of the bytes, or null.
-ComOwner<IStream> streamOver(const void* data, size_t count)
-{
-    OwnedBlock block(::GlobalAlloc(GMEM_MOVEABLE, count));
-    if (block == nullptr)
-    {
-        return nullptr;
-    }
-    {
-        const LockedBlock locked(block.get());
-        if (locked.bytes() == nullptr)
-        {
-            return nullptr;
-        }
-        std::memcpy(locked.bytes(), data, count);
-    }
     IStream* stream = nullptr;
-    if (FAILED(::CreateStreamOnHGlobal(block.get(), TRUE, &stream)))
+    if (block == nullptr || FAILED(::CreateStreamOnHGlobal(block.get(), TRUE, &stream)))
     {
         return nullptr;
     }
@@ -84,13 +32,9 @@ ComOwner<IStream> streamOver(const void* data, size_t count)
     return ComOwner<IStream>(stream);
 }
 
-ComOwner<IPicture> decode(const void* data, size_t count, LONG claimed)
+ComOwner<IPicture> decode(OwnedBlock block, LONG claimed)
 {
-    if (!PictureData::isWhole(static_cast<const unsigned char*>(data), count))
-    {
-        return nullptr;
-    }
-    const ComOwner<IStream> stream = streamOver(data, count);
+    const ComOwner<IStream> stream = streamOver(std::move(block));
     void* picture = nullptr;
     if (stream == nullptr || FAILED(::OleLoadPicture(stream.get(), claimed, FALSE, IID_IPicture, &picture)))
     {
@@ -99,16 +43,23 @@ ComOwner<IPicture> decode(const void* data, size_t count, LONG claimed)
     return ComOwner<IPicture>(static_cast<IPicture*>(picture));
 }
 
+ComOwner<IPicture> decode(const void* data, size_t count, LONG claimed)
+{
+    return PictureData::isWhole(static_cast<const unsigned char*>(data), count)
+               ? decode(movableCopy(data, count), claimed)
+               : nullptr;
+}
+
 /// Whether a file may be given to the decoder. What is no local file is left to the platform.
 bool fileIsWhole(const CString& path)
 {
-    const OwnedFile file = openFile(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING);
+    const KernelHandle file = openFile(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING);
     LARGE_INTEGER size = {};
     if (file == nullptr || !::GetFileSizeEx(file.get(), &size))
     {
         return true;
     }
-    const OwnedFile mapping(::CreateFileMappingW(file.get(), nullptr, PAGE_READONLY, 0, 0, nullptr));
+    const KernelHandle mapping(::CreateFileMappingW(file.get(), nullptr, PAGE_READONLY, 0, 0, nullptr));
     if (mapping == nullptr)
     {
         return false; // an empty file has none
@@ -126,7 +77,7 @@ bool fileIsWhole(const CString& path)
 
 bool writeFile(const CString& path, const void* data, DWORD count)
 {
-    const OwnedFile file = openFile(path, GENERIC_WRITE, 0, CREATE_ALWAYS);
+    const KernelHandle file = openFile(path, GENERIC_WRITE, 0, CREATE_ALWAYS);
     DWORD written = 0;
     return file != nullptr && ::WriteFile(file.get(), data, count, &written, nullptr) && written == count;
 }
@@ -184,6 +135,16 @@ DecodedPicture DecodedPicture::fromMemory(const void* data, size_t count)
     return DecodedPicture(decode(data, count, static_cast<LONG>(count)));
 }
 
+DecodedPicture DecodedPicture::fromGif(HGLOBAL block, size_t count)
+{
+    OwnedBlock owned(block);
+    if (count > static_cast<size_t>(std::numeric_limits<LONG>::max()))
+    {
+        return DecodedPicture();
+    }
+    return DecodedPicture(decode(std::move(owned), static_cast<LONG>(count)));
+}
+
 DecodedPicture DecodedPicture::fromPath(const CString& path)
 {
     const SystemText text = systemText(path);
@@ -196,11 +157,18 @@ DecodedPicture DecodedPicture::fromPath(const CString& path)
     return DecodedPicture(ComOwner<IPicture>(static_cast<IPicture*>(picture)));
 }
 
-bool DecodedPicture::render(HDC target, int w, int h, LPCRECT bounds) const
+SIZE DecodedPicture::pixels(HDC dc) const
+{
+    constexpr int unitsPerInch = 2540; // hundredths of a millimetre
+    return {::MulDiv(m_width, ::GetDeviceCaps(dc, LOGPIXELSX), unitsPerInch),
+            ::MulDiv(m_height, ::GetDeviceCaps(dc, LOGPIXELSY), unitsPerInch)};
+}
+
+bool DecodedPicture::render(HDC target, int x, int y, int w, int h, LPCRECT bounds) const
 {
     // The picture's own y axis points up.
     return m_picture != nullptr &&
-           SUCCEEDED(m_picture->Render(target, 0, 0, w, h, 0, m_height, m_width, -m_height, bounds));
+           SUCCEEDED(m_picture->Render(target, x, y, w, h, 0, m_height, m_width, -m_height, bounds));
 }
 
 bool DecodedPicture::save(const CString& path) const

@@ -19,21 +19,25 @@ template <class Interface> using ComOwner = std::unique_ptr<Interface, ReleaseIn
 class DecodedPicture
 {
 public:
+    explicit DecodedPicture(ComOwner<IPicture> picture = nullptr);
+
     static DecodedPicture fromResource(unsigned int id, const CString& type);
     /// `count` bytes that are copied.
     static DecodedPicture fromMemory(const void* data, size_t count);
+    /// The `count` bytes of a GIF stream in a block, which it takes.
+    static DecodedPicture fromGif(HGLOBAL block, size_t count);
     /// A path or URL.
     static DecodedPicture fromPath(const CString& path);
 
     bool exists() const { return m_picture != nullptr; }
-    /// Stretches the picture into (0, 0, w, h), upright; false when the platform does not.
-    bool render(HDC target, int w, int h, LPCRECT bounds) const;
+    /// The size on a device, by its pixels per inch.
+    SIZE pixels(HDC dc) const;
+    /// Stretches the picture into a rectangle, upright; false when the platform does not.
+    bool render(HDC target, int x, int y, int w, int h, LPCRECT bounds) const;
     /// Writes the picture in its own format; false when the file cannot be written.
     bool save(const CString& path) const;
 
 private:
-    explicit DecodedPicture(ComOwner<IPicture> picture = nullptr);
-
     ComOwner<IPicture> m_picture;
     OLE_XSIZE_HIMETRIC m_width = 0;
     OLE_YSIZE_HIMETRIC m_height = 0;

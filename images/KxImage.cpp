@@ -202,8 +202,7 @@ void CKxImage::TransparentBlt(CDC* dc, long x, long y, CBitmap* bitmap, COLORREF
     }
     const OwnedBitmap keyPixels(::CreateBitmap(size.cx, size.cy, 1, 1, nullptr));
     const OwnedBitmap result(::CreateCompatibleBitmap(target, size.cx, size.cy));
-    const std::unique_ptr<std::remove_pointer_t<HBRUSH>, DeleteGdiObject> brush(
-        ::CreateSolidBrush(::GetBkColor(target)));
+    const OwnedBrush brush(::CreateSolidBrush(::GetBkColor(target)));
     const MemoryDc image(target, handleOf(bitmap));
     const MemoryDc mask(target, keyPixels.get());
     const MemoryDc work(target, result.get());

@@ -37,7 +37,7 @@ Drawn drawPicture(const DecodedPicture& picture, HDC dc, int w, int h, const COL
         painter.FillSolidRect(&all, *background);
         painter.Detach();
     }
-    result.complete = picture.render(memory.handle(), w, h, background == nullptr ? nullptr : &all);
+    result.complete = picture.render(memory.handle(), 0, 0, w, h, background == nullptr ? nullptr : &all);
     return result;
 }
 

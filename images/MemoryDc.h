@@ -1,4 +1,4 @@
-// A memory device context with a bitmap in it, and the owner of a bitmap handle.
+// A memory device context with a bitmap in it, and the owners of bitmap and brush handles.
 #pragma once
 
 #include <afxwin.h>
@@ -11,6 +11,7 @@ struct DeleteGdiObject
     void operator()(HGDIOBJ object) const { ::DeleteObject(object); }
 };
 using OwnedBitmap = std::unique_ptr<std::remove_pointer_t<HBITMAP>, DeleteGdiObject>;
+using OwnedBrush = std::unique_ptr<std::remove_pointer_t<HBRUSH>, DeleteGdiObject>;
 
 /// Holds a bitmap for drawing for its lifetime, then puts the old one back and deletes the context. The bitmap must
 /// outlive it, and be in no other context: one that cannot be selected leaves the object not ready.
