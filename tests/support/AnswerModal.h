@@ -11,6 +11,7 @@ public:
     {
         s_id = id;
         s_seen.clear();
+        s_count = 0;
         s_created.clear();
         m_hook = SetWindowsHookExW(WH_CBT, onCbt, nullptr, GetCurrentThreadId());
     }
@@ -20,6 +21,8 @@ public:
 
     /// Caption and texts of the last one, as "caption|text".
     static const std::wstring& seen() { return s_seen; }
+    /// How many were answered.
+    static int count() { return s_count; }
 
 private:
     static LRESULT CALLBACK onCbt(int code, WPARAM wParam, LPARAM lParam)
@@ -37,6 +40,7 @@ private:
         wchar_t buffer[1024];
         if (!GetClassNameW(window, buffer, 64) || wcscmp(buffer, L"#32770") != 0)
             return;
+        ++s_count;
         GetWindowTextW(window, buffer, 1024);
         s_seen = buffer;
         s_seen += L'|';
@@ -47,6 +51,7 @@ private:
     }
     HHOOK m_hook;
     inline static int s_id = 0;
+    inline static int s_count = 0;
     inline static std::wstring s_seen;
     inline static std::vector<HWND> s_created;
 };

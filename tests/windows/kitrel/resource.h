@@ -6,6 +6,7 @@
 #define IDM_FILED 103
 #define IDM_OWN_ID 104
 #define IDD_RESTLESS 105
+#define IDD_BEAM 106
 
 #define ID_FIRST 201
 #define ID_SECOND 202
@@ -17,6 +18,9 @@
 #define IDC_FILED_BUTTON 303
 #define IDC_HELPED 304
 #define IDC_UNHELPED 305
+#define IDC_SPAN 306
+#define IDC_DEPTH 307
+#define IDC_NOTE 308
 
 #define IDS_TWO_PLACES 401
 #define IDS_REPEATED 402
