@@ -6,6 +6,11 @@
 #include "oxa/Export.h"
 #include "oxa/treelist/KxTreeListViewCtrl.h"
 
+namespace treelist
+{
+struct Measures;
+}
+
 /// Stands in the place of a custom control of the window class "KORVELTREELISTCTRL" and creates its three children: the
 /// header, the tree (`m_tree`) and the horizontal scroll bar.
 ///
@@ -45,6 +50,9 @@ public:
 
     /// Creates the children of the attached window; `SubclassDlgItem` calls it. Called again it changes nothing.
     void Initialize();
+
+    /// The header: sort images, and the list that they are drawn from.
+    CKxHeaderCtrl& GetHeaderCtrl();
 
     /// Whether the tree has a vertical scroll bar: the upper end of its range isn't 0.
     BOOL VerticalScrollVisible();
@@ -98,9 +106,39 @@ protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
 
-    CScrollBar m_scrollBar;
+    afx_msg void OnHScroll(UINT code, UINT pos, CScrollBar* bar);
+    afx_msg void OnContextMenu(CWnd* window, CPoint point);
+    afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg void OnMove(int x, int y);
+    afx_msg LRESULT OnTreeListViewLeftClickBefore(WPARAM flags, LPARAM point);
+    afx_msg LRESULT OnTreeListViewLeftClickAfter(WPARAM flags, LPARAM point);
+    afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnKillFocus(CWnd* next);
+    afx_msg void OnSetFocus(CWnd* before);
+    DECLARE_MESSAGE_MAP()
+
+    CScrollBar m_scrollBar; ///< the horizontal one
     bool m_canModifyLabels = false;
     bool m_treeSortEnabled = true;
 
-    friend class CKxTreeListViewCtrl; // ResetVertScrollBar serves the frame
+private:
+    friend class CKxTreeListViewCtrl; // its ResetVertScrollBar serves the frame
+
+    void CopyParentFont();
+    void OnHeaderClick(int column);
+    void ShowSortImage(int column, int image);
+    void OnHeaderChanged();
+    treelist::Measures Measure() const;
+    void ShowBar(bool show);
+    void PutHeader(int width);
+    void ShowFromTheLeft(const treelist::Measures& now);
+    void FollowHeader();
+    void CancelEdit();
+    void ResetVertical();
+    void PlaceChildren(bool repaint);
+    int ScrollLimit();
+    void ScrollTo(int current, int position);
+    void ShiftEdit(int shift);
+
+    bool m_recalculationHeld = false; ///< changes of header items are made up for later
 };
