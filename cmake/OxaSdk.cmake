@@ -8,6 +8,7 @@ target_compile_definitions(kxafx INTERFACE
 
 install(TARGETS Oxa10 kxafx Kitrel10-9 kxafx_winmain EXPORT Oxa10 COMPONENT sdk
         RUNTIME DESTINATION bin LIBRARY DESTINATION bin ARCHIVE DESTINATION lib INCLUDES DESTINATION include)
+install(TARGETS oxa-gif RUNTIME DESTINATION bin COMPONENT sdk)
 install(DIRECTORY include/ afx/include/ siblings/kitrel/include/ DESTINATION include COMPONENT sdk)
 install(FILES ${OXA_RUNTIME_DLLS} DESTINATION bin COMPONENT sdk)
 install(DIRECTORY docs/first-host DESTINATION . COMPONENT sdk)
