@@ -5,6 +5,7 @@
 #include <afxcoll.h>
 
 #include <memory>
+#include <vector>
 
 #include "kitrel/KxUnitManager.h"
 #include "oxa/Export.h"
@@ -17,7 +18,9 @@ class CKxTreeListFrame;
 namespace treelist
 {
 class RowStore;
-}
+struct Columns;
+struct CellPlace;
+} // namespace treelist
 
 /// What the next `ProcessEditNotification` does.
 enum eEditState : int
@@ -193,6 +196,7 @@ protected:
     afx_msg void OnClick(NMHDR* notify, LRESULT* result);
     afx_msg void OnKillfocus(NMHDR* notify, LRESULT* result);
     afx_msg LRESULT OnEditKillFocus(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnDeleteNode(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     friend class CKxTreeListFrame; // fills the header, its font and images, and scrolls
@@ -205,6 +209,8 @@ protected:
     CEdit* m_pEdit = nullptr;   ///< the open editor, owned; a `CKxUnitCtrl` in a column of units
     bool m_keyEdit = false;     ///< a key is opening the editor
     int m_editColumn = -1;
+    HTREEITEM m_editedItem = nullptr; ///< the row that is being edited, null once it is gone
+    unsigned m_editsOpened = 0;       ///< tells one edit from the next
     eEditState m_editState = EDIT_STATE_NONE;
 
     int m_columnCount = 0;
@@ -215,5 +221,14 @@ protected:
     bool m_headerCustomDraw = false;
 
 private:
+    void PaintRows(CDC& dc, const treelist::Columns& columns, const CRect& clip);
+    void PaintCells(CDC& dc, const CKxTreeListRow& row, const std::vector<treelist::CellPlace>& places);
+    CWnd* ParentOfFrame() const;
+    bool IsColumnOfUnits(int column) const;
+    bool WriteEditedCell(const CString& trimmed);
+    void CreateEditor(HTREEITEM item, int column, CRect& rect);
+    void ClickRow(HTREEITEM item);
+    bool PressButton(CPoint point);
+
     std::unique_ptr<treelist::RowStore> m_rows;
 };

@@ -1,0 +1,105 @@
+// The platform's tree control as the rows of the tree list ask for it.
+#pragma once
+
+#include <afxcmn.h>
+
+#include "Surviving.h"
+#include "TreeRows.h"
+#include "oxa/treelist/KxTreeListFrame.h"
+
+namespace treelist
+{
+
+/// Borrows the control. Its operations are those of the platform's tree, not the control's own.
+class NativeTree
+{
+public:
+    using Node = HTREEITEM;
+
+    explicit NativeTree(const CKxTreeListViewCtrl& tree) : m_tree(const_cast<CKxTreeListViewCtrl*>(&tree)) {}
+
+    static bool IsNode(Node node)
+    {
+        return node != nullptr && node != TVI_ROOT && node != TVI_FIRST && node != TVI_LAST && node != TVI_SORT;
+    }
+
+    Node First() const { return m_tree->GetRootItem(); }
+    Node Next(Node node) const { return IsNode(node) ? m_tree->GetNextSiblingItem(node) : nullptr; }
+    Node FirstChild(Node node) const { return IsNode(node) ? m_tree->GetChildItem(node) : nullptr; }
+    Node Parent(Node node) const { return IsNode(node) ? m_tree->GetParentItem(node) : nullptr; }
+    Node Last() const { return TVI_LAST; }
+    bool HasChildren(Node node) const { return IsNode(node) && m_tree->ItemHasChildren(node); }
+
+    LPARAM Param(Node node) const
+    {
+        return IsNode(node) ? static_cast<LPARAM>(m_tree->CTreeCtrl::GetItemData(node)) : 0;
+    }
+    BOOL SetParam(Node node, LPARAM param)
+    {
+        if (!IsNode(node) || !m_tree->CTreeCtrl::SetItemData(node, static_cast<DWORD_PTR>(param)))
+            return FALSE;
+        Redraw(node);
+        return TRUE;
+    }
+
+    bool ReadForCopy(Node node, NodeBlock& block) const
+    {
+        TVITEM item = {};
+        item.hItem = node;
+        item.mask = TVIF_IMAGE | TVIF_PARAM | TVIF_STATE | TVIF_SELECTEDIMAGE;
+        if (!IsNode(node) || !m_tree->GetItem(&item))
+            return false;
+        block.mask = TVIF_TEXT | item.mask;
+        block.image = item.iImage;
+        block.selectedImage = item.iSelectedImage;
+        block.state = item.state;
+        block.stateMask = 0; // neither expanded nor selected
+        return true;
+    }
+    /// The label is the empty text.
+    Node Insert(const NodeBlock& block, Node parent, Node after)
+    {
+        return m_tree->CTreeCtrl::InsertItem(block.mask, L"", block.image, block.selectedImage, block.state,
+                                             block.stateMask, block.param, parent, after);
+    }
+    BOOL Remove(Node node) { return IsNode(node) && m_tree->CTreeCtrl::DeleteItem(node); }
+
+    bool ReadyForRow()
+    {
+        CKxTreeListFrame* const frame = Frame();
+        if (frame == nullptr)
+            return true;
+        const Surviving here(*m_tree);
+        frame->ResetScrollBar();
+        return static_cast<bool>(here);
+    }
+
+    template <typename Compare> BOOL Sort(Node parent, const Compare& compare)
+    {
+        TVSORTCB sort = {};
+        sort.hParent = parent == nullptr ? TVI_ROOT : parent;
+        sort.lpfnCompare = [](LPARAM a, LPARAM b, LPARAM context)
+        { return (*reinterpret_cast<const Compare*>(context))(a, b); };
+        sort.lParam = reinterpret_cast<LPARAM>(&compare);
+        return m_tree->SortChildrenCB(&sort);
+    }
+
+    /// The parent, when it is a tree list's frame.
+    CKxTreeListFrame* Frame() const
+    {
+        return dynamic_cast<CKxTreeListFrame*>(CWnd::FromHandlePermanent(::GetParent(m_tree->GetSafeHwnd())));
+    }
+
+private:
+    /// Not every platform draws a node anew when only its parameter was written.
+    void Redraw(Node node)
+    {
+        CRect row;
+        if (m_tree->GetItemRect(node, &row, FALSE))
+            m_tree->InvalidateRect(&row);
+    }
+
+    CKxTreeListViewCtrl* m_tree;
+};
+
+} // namespace treelist
