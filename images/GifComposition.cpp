@@ -3,135 +3,228 @@
 #include <cstring>
 
 #include "GifReading.h"
+#include "GifRowPacking.h"
 
-bool CKxGifImage::GifReading::Scan()
+CKxGifImage::GifReading::Result CKxGifImage::GifReading::Scan()
 {
     bool afterNull = true;
     std::uint8_t value = 0;
-    while (ReadByte(value))
+    Step step = Step::Next;
+    while (step == Step::Next && ReadByte(value))
     {
         if (m_image.GetEscape() > 0)
-            return false;
+            return Stopped();
         if (!afterNull && value != 0)
             continue;
         if (value == '!')
-        {
-            if (!m_image.DecodeExtension(&m_file))
-                break;
-        }
+            step = m_image.DecodeExtension(&m_file) ? Step::Next : Step::Done;
         else if (value == ',')
-        {
-            const Step step = ReadFrame();
-            if (step == Step::Failed)
-                return false;
-            if (step == Step::Done)
-                break;
-        }
+            step = ReadFrame();
         else if (value == ';')
-            break;
+            step = Step::Done;
         else
             afterNull = value == 0;
     }
-    FinishMosaic();
-    return true;
+    if (step == Step::Failed)
+        return Result::Failed;
+    if (step == Step::Again || (m_way == GifWay::OnePass && !ProveTheRest()))
+        return Result::Again;
+    FinishPicture();
+    return Result::Good;
+}
+
+// Between two frames: the picture is what there is of it; tiles are not put together.
+CKxGifImage::GifReading::Result CKxGifImage::GifReading::Stopped()
+{
+    if (m_way == GifWay::OnePass)
+        return Result::Again;
+    if (m_counter == 0 || m_score < 2)
+        FinishPicture();
+    else if (m_way != GifWay::Observed)
+        m_image.Destroy();
+    return Result::Failed;
 }
 
 CKxGifImage::GifReading::Step CKxGifImage::GifReading::ReadFrame()
 {
-    tag_image descriptor{};
+    Frame frame{};
+    tag_image& descriptor = frame.descriptor;
     if (!ReadDescriptor(descriptor) || !IsInside(descriptor, m_screen))
         return Step::Next;
     if (m_counter == 0 && descriptor.width != m_screen.screenWidth && descriptor.height != m_screen.screenHeight)
         ++m_score;
     ReadTable(descriptor.flags, m_table);
-    const unsigned long depth = DepthOf(m_table);
-    CKxGifImage background;
-    if (!MakeBackground(background, depth) ||
-        CannotCreate(m_image.Create(descriptor.width, descriptor.height, depth), descriptor.width, descriptor.height))
+    frame.depth = DepthOf(m_table);
+    frame.start = Position();
+    if (m_counter == 0 && !BeginCanvas(frame.depth))
     {
+        LeaveLastCounted();
         m_image.Destroy();
-        return Step::Failed;
+        return m_way == GifWay::OnePass ? Step::Again : Step::Failed;
     }
-    if (((descriptor.flags | m_screen.flags) & 0x80) != 0)
-        SetPalette();
-    CKxGifImageIterator iterator(&m_image);
-    iterator.Upset();
-    BeginRaster(descriptor);
-    const long start = m_file.Tell();
-    DecodeRaster(&iterator, descriptor.width);
-    if (m_image.GetEscape() != 0)
-        return Step::Failed;
-    if (m_score >= 2)
-        AddToMosaic(descriptor);
-    else
-        Compose(background, descriptor);
-    m_disposal = m_image.m_graphicControl.Disposal();
-    EndRaster(start);
+    if (m_disposal == 2 && m_score < 2)
+        m_canvas.Clear(static_cast<std::uint8_t>(m_background));
+    MakePalette(frame);
+    const GifFrameColors colors = ColorsOf(frame);
+    const bool drawn = m_way == GifWay::Observed ? DrawObserved(frame, colors) : DrawBytes(frame, colors);
+    if (!drawn)
+        return m_way == GifWay::OnePass ? Step::Again : Step::Failed;
+    EndFrame(frame);
     return m_image.m_Info.nFrame == m_counter++ ? Step::Done : Step::Next;
 }
 
-bool CKxGifImage::GifReading::MakeBackground(CKxGifImage& background, unsigned long depth)
+bool CKxGifImage::GifReading::BeginCanvas(unsigned long depth)
 {
-    background.CopyInfo(m_image);
-    if (m_counter > 0)
-    {
-        background.Copy(m_image, true, true, true);
-        if (m_disposal == 2)
-            background.Clear(static_cast<unsigned char>(m_background));
-        return true;
-    }
     m_background = m_image.m_Info.nTransIndex;
-    if (CannotCreate(background.Create(m_screen.screenWidth, m_screen.screenHeight, depth), m_screen.screenWidth,
-                     m_screen.screenHeight))
-        return false;
-    background.Clear(m_image.m_graphicControl.transparentIndex);
+    if (m_way != GifWay::Observed)
+        m_image.Destroy();
+    if (!m_picture.Create(m_screen.screenWidth, m_screen.screenHeight, m_score >= 2 ? 24 : depth))
+        return m_screen.screenWidth == 0 || m_screen.screenHeight == 0;
+    m_canvas.Begin(m_picture.GetBits(), m_screen.screenWidth, m_screen.screenHeight, m_picture.GetEffWidth(),
+                   m_picture.GetBpp());
+    m_canvas.Clear(m_image.m_graphicControl.transparentIndex);
     return true;
 }
 
-// With a transparent index the entries that the stream does not have are white.
-void CKxGifImage::GifReading::SetPalette()
+// Black without a table. With a transparent index the entries that the stream does not have are white.
+void CKxGifImage::GifReading::MakePalette(const Frame& frame)
 {
-    ::rgb_color colors[256];
-    std::memset(colors, 255, sizeof colors);
-    const auto count = static_cast<std::size_t>(m_table.sogct);
-    std::copy_n(m_table.colors, count, colors);
-    m_image.SetPalette(colors, m_image.m_Info.nTransIndex == -1 ? static_cast<unsigned long>(count) : 256UL);
-}
-
-void CKxGifImage::GifReading::Compose(CKxGifImage& background, tag_image& descriptor)
-{
-    if (m_image.IsValid())
-        background.GifMix(m_image, descriptor);
-    background.m_Info.nTransIndex = m_background;
-    background.SetPalette(m_image.GetPalette(), m_image.GetNumColors());
-    m_image.Transfer(background);
-}
-
-void CKxGifImage::GifReading::AddToMosaic(const tag_image& descriptor)
-{
-    m_image.m_Info.nFrame = m_image.m_Info.nNumFrames - 1;
-    if (!m_hasMosaic)
-        m_mosaic.Create(m_screen.screenWidth, m_screen.screenHeight, 24);
-    m_hasMosaic = true;
-    for (long y = 0; y < descriptor.height; ++y)
-        for (long x = 0; x < descriptor.width; ++x)
-            m_mosaic.SetPixelColor(x + descriptor.left, m_screen.screenHeight - 1 - descriptor.top - y,
-                                   m_image.GetPixelColor(x, descriptor.height - y - 1));
-}
-
-// The picture keeps what the image knows besides: it is transparent when the last control block says so.
-void CKxGifImage::GifReading::FinishMosaic()
-{
-    if (m_score < 2 || !m_hasMosaic)
+    std::memset(m_palette, 0, sizeof m_palette);
+    m_colors = HasPixels(frame.descriptor) ? 1UL << frame.depth : 0;
+    if (((frame.descriptor.flags | m_screen.flags) & 0x80) == 0)
         return;
-    GifImageInfo info = m_image.m_Info;
-    info.pImage = m_mosaic.m_Info.pImage;
-    info.nEffWidth = m_mosaic.m_Info.nEffWidth;
-    const bool transparent = m_image.m_graphicControl.IsTransparent();
-    info.TransColor = {};
-    if (transparent)
-        info.TransColor = m_image.GetPaletteColor(static_cast<unsigned char>(info.nTransIndex));
-    info.nTransIndex = transparent ? 0 : -1;
-    m_mosaic.m_Info = info;
-    m_image.Transfer(m_mosaic);
+    const auto count = static_cast<unsigned long>(m_table.sogct);
+    for (unsigned long i = 0; i < std::min(m_colors, count); ++i)
+        m_palette[i] = {m_table.colors[i].b, m_table.colors[i].g, m_table.colors[i].r, 0};
+    if (m_image.m_Info.nTransIndex != -1)
+        for (unsigned long i = count; i < m_colors; ++i)
+            m_palette[i] = {255, 255, 255, 0};
+}
+
+GifFrameColors CKxGifImage::GifReading::ColorsOf(const Frame& frame) const
+{
+    GifFrameColors colors;
+    colors.mask = static_cast<std::uint8_t>((1U << frame.depth) - 1U);
+    colors.palette = reinterpret_cast<const std::uint8_t*>(m_palette);
+    const std::int32_t transparent = m_image.m_Info.nTransIndex;
+    if (m_score < 2 && transparent >= 0 && transparent <= colors.mask && !m_canvas.IsNothingBut(transparent))
+        colors.transparent = transparent;
+    return colors;
+}
+
+// Into the image itself, which keeps the frame when the decode is stopped, and from there onto the canvas.
+bool CKxGifImage::GifReading::DrawObserved(const Frame& frame, const GifFrameColors& colors)
+{
+    const tag_image& descriptor = frame.descriptor;
+    if (!m_image.Create(descriptor.width, descriptor.height, frame.depth) && HasPixels(descriptor))
+        return false;
+    m_image.SetPalette(m_palette, m_colors);
+    BeginRaster(descriptor);
+    CKxGifImageIterator iterator(&m_image);
+    iterator.Upset();
+    DecodeRaster(&iterator, descriptor.width);
+    if (m_image.GetEscape() != 0)
+        return false;
+    std::vector<std::uint8_t> pixels(descriptor.width);
+    for (std::size_t y = 0; y < descriptor.height && HasPixels(descriptor); ++y)
+    {
+        const std::uint8_t* const row = m_image.GetBits(static_cast<unsigned long>(y));
+        for (std::size_t x = 0; x < pixels.size(); ++x)
+            pixels[x] = packedPixel(row, x, static_cast<int>(frame.depth));
+        m_canvas.PutRow(std::size_t{m_screen.screenHeight} - descriptor.top - descriptor.height + y, descriptor.left,
+                        pixels.data(), pixels.size(), colors);
+    }
+    return true;
+}
+
+// Straight onto the canvas, unless a row that comes twice would have to be taken back.
+bool CKxGifImage::GifReading::DrawBytes(const Frame& frame, const GifFrameColors& colors)
+{
+    const tag_image& descriptor = frame.descriptor;
+    const bool interlaced = (descriptor.flags & 0x40) != 0;
+    const bool replaces = interlaced && colors.transparent >= 0;
+    if (replaces && (m_way == GifWay::TwoPasses || !GifRowOrder(descriptor).IsStraight()))
+    {
+        GifRowStore rows(descriptor, static_cast<int>(frame.depth));
+        DecodeBytes(frame, &rows);
+        rows.Draw(m_canvas, m_screen.screenHeight, colors);
+    }
+    else
+    {
+        GifRowsToCanvas rows(m_canvas, m_screen.screenHeight, descriptor, colors);
+        DecodeBytes(frame, &rows);
+        if (HasPixels(descriptor))
+            rows.Finish();
+        if (replaces && m_lzw.Pixels() > std::uint64_t{descriptor.width} * descriptor.height)
+            return false;
+    }
+    if (m_way == GifWay::OnePass)
+        return m_image.GetEscape() == 0 && IsAsCounted(m_counted[static_cast<std::size_t>(m_counter)]);
+    if (m_image.GetEscape() == 0)
+        return true;
+    m_image.Destroy();
+    return false;
+}
+
+bool CKxGifImage::GifReading::IsAsCounted(const Frame& frame) const
+{
+    return BadCodes() == 0 && m_used + 1 == frame.end;
+}
+
+void CKxGifImage::GifReading::EndFrame(const Frame& frame)
+{
+    if (m_score >= 2)
+        m_image.m_Info.nFrame = m_image.m_Info.nNumFrames - 1;
+    else
+    {
+        m_image.m_Info.nTransIndex = m_background;
+        m_picture.SetPalette(m_palette, m_colors);
+    }
+    m_disposal = m_image.m_graphicControl.Disposal();
+    EndRaster(frame.start);
+}
+
+// The frames that were not asked for. What the tables keep of them is older than what they keep of the others.
+bool CKxGifImage::GifReading::ProveTheRest()
+{
+    if (m_counter == 0)
+        return false;
+    const auto first = static_cast<std::size_t>(m_counter);
+    if (first == m_counted.size())
+        return true;
+    LzwDecoderState& state = m_image.m_lzwDecoder;
+    const LzwDecoderState asked = state;
+    const unsigned kept = m_lzw.TakeKept();
+    for (std::size_t i = first; i < m_counted.size(); ++i)
+    {
+        DecodeBytes(m_counted[i], nullptr);
+        if (!IsAsCounted(m_counted[i]))
+            return false;
+    }
+    for (std::size_t i = state.prefix.size() / 2; i < kept; ++i)
+        state.prefix[i] = asked.prefix[i];
+    return true;
+}
+
+// A true-colour picture is transparent when the last control block says so.
+void CKxGifImage::GifReading::FinishPicture()
+{
+    if (m_counter == 0)
+    {
+        LeaveLastCounted();
+        return;
+    }
+    m_canvas.Finish();
+    GifImageInfo& info = m_image.m_Info;
+    if (m_score >= 2)
+    {
+        const bool transparent = m_image.m_graphicControl.IsTransparent();
+        const auto index = static_cast<std::uint8_t>(info.nTransIndex);
+        info.TransColor = transparent && index < m_colors ? m_palette[index] : RGBQUAD{};
+        info.nTransIndex = transparent ? 0 : -1;
+    }
+    info.bLastValid = false;
+    m_picture.m_Info = info;
+    m_picture.PointAtPixels();
+    m_image.Transfer(m_picture);
 }

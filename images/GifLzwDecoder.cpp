@@ -20,7 +20,7 @@ GifLzwDecoder::End GifLzwDecoder::Decode(LzwDecoderState& state, GifInput& input
     m_origin = m_at = 0;
     const int size = input.Byte();
     if (size < 0)
-        return End::OutOfData;
+        return End::NoCodeSize;
     if (size < 2 || size > 9)
         return End::BadCodeSize;
     Initialize(state, size);
@@ -30,8 +30,7 @@ GifLzwDecoder::End GifLzwDecoder::Decode(LzwDecoderState& state, GifInput& input
     m_reader.Begin(state, input);
     const End end = DecodeCodes();
     m_reader.Leave();
-    Finish(end);
-    return end;
+    return Finish(end);
 }
 
 bool GifLzwDecoder::Prepare(const GifRaster& raster)
@@ -90,7 +89,7 @@ GifLzwDecoder::End GifLzwDecoder::DecodeCodes()
     for (;;)
     {
         if (m_clean)
-            Run();
+            RunClean();
         if (m_at >= m_bound && !MakeRoom())
             return End::OutOfRows;
         int code = m_reader.Next();
@@ -214,14 +213,18 @@ void GifLzwDecoder::Slide()
     m_origin += distance;
 }
 
-void GifLzwDecoder::Finish(End end)
+// A row in part goes out at the end code, if there is a row for it.
+GifLzwDecoder::End GifLzwDecoder::Finish(End end)
 {
+    if (end == End::EndCode && m_limit != GifRaster::unlimited && Pixels() > m_limit - m_raster.width)
+        end = End::OutOfRows;
     if (Stores())
     {
         GiveRows();
         const std::size_t part = m_at - m_firstRow;
-        if (end == End::EndCode && part > 0 && m_rowsGiven < m_raster.rows)
+        if (end == End::EndCode && part > 0)
             m_raster.sink->TakePart(m_window.get() + m_firstRow, part);
     }
     KeepPrefixes();
+    return end;
 }

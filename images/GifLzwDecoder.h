@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <limits>
 #include <memory>
+#include <utility>
 #include "GifCodeReader.h"
 #include "GifLzwTables.h"
 #include "oxa/images/GifDecoderState.h"
@@ -48,6 +49,7 @@ public:
     enum class End
     {
         EndCode,
+        NoCodeSize,
         OutOfData,
         OutOfRows,
         BadCodeSize,
@@ -70,6 +72,8 @@ public:
     int BadCodes() const { return m_badCodes; }
     /// Of the last frame: the pixels that its codes gave, those of a row that stopped it included.
     std::uint64_t Pixels() const { return m_origin + m_at; }
+    /// Entries of the prefix table below it, in its upper half, were written since the last call of this.
+    unsigned TakeKept() { return std::exchange(m_kept, 0U); }
 
 private:
     static constexpr std::size_t History = 512; // index of the first pixel; before it stand the strings of the roots
@@ -85,9 +89,10 @@ private:
     bool Step(unsigned code);
     void Widen();
 
-    template <bool store> void RunAdding();
-    template <bool store> void RunFull();
-    void Run();
+    void RunClean();
+    void RunWidth();
+    template <int width> void RunOf();
+    template <int width, bool store, bool adding> void RunOf();
     void EnterClean(unsigned root);
     void LeaveClean();
     void CleanStep(unsigned code);
@@ -102,7 +107,7 @@ private:
     bool MakeRoom();
     void GiveRows();
     void Slide();
-    void Finish(End end);
+    End Finish(End end);
 
     bool Stores() const { return m_raster.sink != nullptr; }
     unsigned FirstFree() const { return static_cast<unsigned>(m_state->firstFreeCode); }
@@ -130,6 +135,7 @@ private:
     std::size_t m_earlier = 0;     // index and length of the string of the earlier code, and that code
     std::size_t m_earlierLength = 0;
     unsigned m_earlierCode = 0;
+    unsigned m_kept = 0;  // see `TakeKept`
     unsigned m_depth = 0; // bytes on the stack
     unsigned m_old = 0;   // the earlier code and the first character of its string, in the plain form
     unsigned m_first = 0;

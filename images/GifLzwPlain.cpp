@@ -25,12 +25,14 @@ void GifLzwDecoder::FillTables()
         if (Stores())
             m_state->suffix[i] = entry.IsMarked() ? m_tables->lastPixels[i] : m_window[entry.At() + entry.Length() - 1];
     }
+    m_kept = std::max(m_kept, m_written);
     m_written = FirstFree();
 }
 
 // What the next frame may see of this one.
 void GifLzwDecoder::KeepPrefixes()
 {
+    m_kept = std::max(m_kept, m_written);
     if (m_written <= TableSize / 2)
         return;
     if (!m_state->prefixFilled)
@@ -72,6 +74,7 @@ bool GifLzwDecoder::PlainStep(unsigned code)
         state.suffix[NextSlot()] = static_cast<std::uint8_t>(walked);
         state.prefix[NextSlot()] = static_cast<std::uint16_t>(m_old);
         ++state.nextSlot;
+        m_kept = std::max(m_kept, NextSlot());
         m_old = code;
     }
     Widen();

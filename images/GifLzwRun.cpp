@@ -3,17 +3,9 @@
 #include <cstring>
 
 #include "GifLzwDecoder.h"
-#include "oxa/images/GifWire.h"
 
 namespace
 {
-inline unsigned codeAt(const std::uint8_t* joined, std::size_t bit, std::uint32_t mask)
-{
-    std::uint32_t bytes;
-    std::memcpy(&bytes, joined + bit / 8, sizeof bytes);
-    return bytes >> bit % 8 & mask;
-}
-
 // `to` is where the string `from` ends, or lies behind it. Up to 15 pixels more are written.
 inline void copyString(std::uint8_t* to, const std::uint8_t* from, std::size_t length)
 {
@@ -29,98 +21,177 @@ inline void copyEarlier(std::uint8_t* to, const std::uint8_t* from, std::size_t 
     if (length <= 16)
         to[length - 1] = *from;
 }
-} // namespace
 
-void GifLzwDecoder::Run()
+/// One run of sound codes of one width, with everything that it changes at hand.
+template <int width, bool store, bool adding> class Run
 {
-    const bool full = NextSlot() == TableSize;
-    if (full)
-        Stores() ? RunFull<true>() : RunFull<false>();
-    else
-        Stores() ? RunAdding<true>() : RunAdding<false>();
-}
+public:
+    GifLzwEntry* entries;
+    std::uint8_t* window;
+    const std::uint8_t* joined;
+    std::size_t bitEnd;
+    std::size_t bound;
+    std::size_t top;
 
-// Until a code needs care (a clear or end code, one that is not sound, one that is not joined, a string that has left the
-// window), the table is full, or the bound is reached.
-template <bool store> void GifLzwDecoder::RunAdding()
-{
-    const std::uint8_t* const joined = m_reader.Joined();
-    const std::size_t bitEnd = m_reader.BitEnd();
-    GifLzwEntry* const entries = m_tables->entries;
-    std::uint8_t* const window = m_window.get();
-    const std::size_t bound = m_bound;
-    std::size_t bit = m_reader.Bit();
-    unsigned next = NextSlot();
-    std::size_t at = m_at;
-    std::size_t earlier = m_earlier;
-    std::size_t earlierLength = m_earlierLength;
-    unsigned earlierCode = m_earlierCode;
-    while (at < bound && next < TableSize)
+    std::size_t bit;
+    std::size_t next;
+    std::size_t at;
+    std::size_t earlier; // index and length of the string of the earlier code, and that code
+    std::size_t earlierLength;
+    std::size_t earlierCode;
+
+    /// Stops before a code that needs care (a clear or end code, one that is not sound, a string that has left the window),
+    /// at the end of the joined bits, at the bound, and when the width is used up.
+    void Go()
     {
-        const auto width = static_cast<std::size_t>(m_state->codeWidth);
-        const auto top = static_cast<unsigned>(m_state->topSlot);
-        const std::uint32_t mask = GifCodeMask(m_state->codeWidth);
-        while (bit + width <= bitEnd && at < bound && next < top)
+        do
+            TakeGroups();
+        while (TakeOne());
+    }
+
+private:
+    static constexpr std::size_t groupPixels = 64; // of four strings in one piece each
+
+    bool IsRoom() const { return at < bound && bit + width <= bitEnd && (!adding || next < top); }
+
+    /// Four codes at a time, as long as their strings are short.
+    void TakeGroups()
+    {
+        while (at + groupPixels <= bound && bit + 4 * width <= bitEnd && (!adding || next + 4 <= top))
         {
-            const unsigned code = codeAt(joined, bit, mask);
-            std::size_t length = earlierLength + 1;
-            if (code < next)
-            {
-                const GifLzwEntry entry = entries[code];
-                length = entry.MarkedLength();
-                if (length >= GifLzwEntry::NoString)
-                    break;
-                if constexpr (store)
-                    copyString(window + at, window + entry.At(), length);
-            }
-            else if (code > next)
-                break;
-            else if constexpr (store)
-                copyEarlier(window + at, window + earlier, length);
-            entries[next++] = GifLzwEntry(earlier, earlierLength + 1, earlierCode);
+            const std::uint64_t codes = Bits();
+            if (!TakeShort(codes & mask) || !TakeShort(codes >> width & mask) ||
+                !TakeShort(codes >> 2 * width & mask) || !TakeShort(codes >> 3 * width & mask))
+                return;
+        }
+    }
+
+    bool TakeShort(std::size_t code)
+    {
+        if (adding && code >= next)
+            return false;
+        const GifLzwEntry entry = entries[code];
+        const std::size_t length = entry.MarkedLength();
+        if (length > (store ? 16 : GifLzwEntry::NoString - 1))
+            return false;
+        if constexpr (store)
+            copyPixels16(window + at, window + entry.At());
+        Took(code, length);
+        return true;
+    }
+
+    bool TakeOne()
+    {
+        if (!IsRoom())
+            return false;
+        const std::size_t code = Bits() & mask;
+        std::size_t length = earlierLength + 1;
+        if (!adding || code < next)
+        {
+            const GifLzwEntry entry = entries[code];
+            length = entry.MarkedLength();
+            if (length >= GifLzwEntry::NoString)
+                return false;
+            if constexpr (store)
+                copyString(window + at, window + entry.At(), length);
+        }
+        else if (code > next)
+            return false;
+        else if constexpr (store)
+            copyEarlier(window + at, window + earlier, length);
+        Took(code, length);
+        return true;
+    }
+
+    void Took(std::size_t code, std::size_t length)
+    {
+        if constexpr (adding)
+        {
+            entries[next++] = GifLzwEntry(earlier, earlierLength + 1, static_cast<unsigned>(earlierCode));
             earlier = store ? at : 0;
             earlierLength = length;
             earlierCode = code;
-            at += length;
-            bit += width;
         }
-        if (next < top)
-            break;
-        m_state->nextSlot = static_cast<std::int16_t>(next);
-        Widen();
-    }
-    m_reader.SetBit(bit);
-    m_state->nextSlot = static_cast<std::int16_t>(next);
-    m_written = std::max(m_written, next);
-    m_at = at;
-    m_earlier = earlier;
-    m_earlierLength = earlierLength;
-    m_earlierCode = earlierCode;
-}
-
-template <bool store> void GifLzwDecoder::RunFull()
-{
-    const std::uint8_t* const joined = m_reader.Joined();
-    const std::size_t bitEnd = m_reader.BitEnd();
-    const auto width = static_cast<std::size_t>(m_state->codeWidth);
-    const std::uint32_t mask = GifCodeMask(m_state->codeWidth);
-    const GifLzwEntry* const entries = m_tables->entries;
-    std::uint8_t* const window = m_window.get();
-    std::size_t bit = m_reader.Bit();
-    std::size_t at = m_at;
-    while (bit + width <= bitEnd && at < m_bound)
-    {
-        const GifLzwEntry entry = entries[codeAt(joined, bit, mask)];
-        const std::size_t length = entry.MarkedLength();
-        if (length >= GifLzwEntry::NoString)
-            break;
-        if constexpr (store)
-            copyString(window + at, window + entry.At(), length);
         at += length;
         bit += width;
     }
-    m_reader.SetBit(bit);
-    m_at = at;
+
+    std::uint64_t Bits() const
+    {
+        std::uint64_t bytes;
+        std::memcpy(&bytes, joined + bit / 8, sizeof bytes);
+        return bytes >> bit % 8;
+    }
+
+    static constexpr std::uint64_t mask = (1U << width) - 1U;
+};
+} // namespace
+
+template <int width, bool store, bool adding> void GifLzwDecoder::RunOf()
+{
+    Run<width, store, adding> run{m_tables->entries, m_window.get(),  m_reader.Joined(),
+                                  m_reader.BitEnd(), m_bound,         static_cast<std::size_t>(m_state->topSlot),
+                                  m_reader.Bit(),    NextSlot(),      m_at,
+                                  m_earlier,         m_earlierLength, m_earlierCode};
+    run.Go();
+    m_reader.SetBit(run.bit);
+    m_state->nextSlot = static_cast<std::int16_t>(run.next);
+    m_at = run.at;
+    m_earlier = run.earlier;
+    m_earlierLength = run.earlierLength;
+    m_earlierCode = static_cast<unsigned>(run.earlierCode);
+}
+
+template <int width> void GifLzwDecoder::RunOf()
+{
+    if (Stores())
+        RunOf<width, true, true>();
+    else
+        RunOf<width, false, true>();
+}
+
+void GifLzwDecoder::RunWidth()
+{
+    switch (m_state->codeWidth)
+    {
+    case 3:
+        return RunOf<3>();
+    case 4:
+        return RunOf<4>();
+    case 5:
+        return RunOf<5>();
+    case 6:
+        return RunOf<6>();
+    case 7:
+        return RunOf<7>();
+    case 8:
+        return RunOf<8>();
+    case 9:
+        return RunOf<9>();
+    case 10:
+        return RunOf<10>();
+    case 11:
+        return RunOf<11>();
+    default:
+        return RunOf<12>();
+    }
+}
+
+// As many codes as can be taken without care, through all widths.
+void GifLzwDecoder::RunClean()
+{
+    while (NextSlot() < TableSize)
+    {
+        RunWidth();
+        m_written = std::max(m_written, NextSlot());
+        if (m_state->nextSlot < m_state->topSlot)
+            return;
+        Widen();
+    }
+    if (Stores())
+        RunOf<12, true, false>();
+    else
+        RunOf<12, false, false>();
 }
 
 // One code that is not above the next free one.

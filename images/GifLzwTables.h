@@ -10,27 +10,23 @@
 class GifLzwEntry
 {
 public:
-    enum : std::uint32_t
-    {
-        NoString = 0x8000, // as length or with it: the string does not stand in the window, or the code has none
-        LengthBits = 0xFFFF,
-    };
+    static constexpr std::uint32_t NoString = 0x8000; // added to the length: the string does not stand in the window
 
     GifLzwEntry() = default;
     GifLzwEntry(std::size_t at, std::size_t length, unsigned prefix)
-        : m_word(at | static_cast<std::uint64_t>(length) << 32 | static_cast<std::uint64_t>(prefix) << 48)
+        : m_word(static_cast<std::uint64_t>(at) << 32 | static_cast<std::uint64_t>(prefix) << 16 | length)
     {
     }
 
-    std::uint32_t At() const { return static_cast<std::uint32_t>(m_word); }
+    std::size_t At() const { return static_cast<std::size_t>(m_word >> 32); }
     /// With the mark.
-    std::uint32_t MarkedLength() const { return static_cast<std::uint32_t>(m_word >> 32) & LengthBits; }
-    std::uint32_t Length() const { return MarkedLength() & (NoString - 1); }
-    bool IsMarked() const { return (MarkedLength() & NoString) != 0; }
-    unsigned Prefix() const { return static_cast<unsigned>(m_word >> 48); }
+    std::size_t MarkedLength() const { return m_word & 0xFFFF; }
+    std::size_t Length() const { return m_word & (NoString - 1); }
+    bool IsMarked() const { return (m_word & NoString) != 0; }
+    unsigned Prefix() const { return static_cast<unsigned>(m_word >> 16 & 0xFFFF); }
 
     void MoveTo(std::size_t at) { *this = GifLzwEntry(at, Length(), Prefix()); }
-    void Mark() { m_word |= static_cast<std::uint64_t>(NoString) << 32; }
+    void Mark() { m_word |= NoString; }
 
 private:
     std::uint64_t m_word;

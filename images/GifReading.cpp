@@ -1,20 +1,53 @@
-// The two passes over a GIF stream.
+// The scan of a GIF stream, and the pass that counts its frames.
 #include "GifReading.h"
 
+#include <algorithm>
 #include <cstring>
-#include "GifRowPacking.h"
+#include "GifInput.h"
 
-bool CKxGifImage::GifReading::Decode()
+CKxGifImage::GifReading::Before::Before(const CKxGifImage& image)
+    : m_info(image.m_Info), m_control(image.m_graphicControl), m_loops(image.m_nLoops), m_disposal(image.m_nDisposal),
+      m_prefixFilled(image.m_lzwDecoder.prefixFilled)
+{
+    std::memcpy(m_comment, image.m_comment, sizeof m_comment);
+    if (m_prefixFilled)
+        std::memcpy(m_prefixes, image.m_lzwDecoder.prefix.data() + std::size(m_prefixes), sizeof m_prefixes);
+}
+
+void CKxGifImage::GifReading::Before::PutBack(CKxGifImage& image) const
+{
+    image.m_Info.nTransIndex = m_info.nTransIndex;
+    image.m_Info.nFrameDelay = m_info.nFrameDelay;
+    image.m_Info.nFrame = m_info.nFrame;
+    image.m_graphicControl = m_control;
+    image.m_nLoops = m_loops;
+    image.m_nDisposal = m_disposal;
+    std::memcpy(image.m_comment, m_comment, sizeof m_comment);
+    image.m_lzwDecoder.prefixFilled = m_prefixFilled;
+    if (m_prefixFilled)
+        std::memcpy(image.m_lzwDecoder.prefix.data() + std::size(m_prefixes), m_prefixes, sizeof m_prefixes);
+}
+
+CKxGifImage::GifReading::GifReading(CKxGifImage& image, CKxMemFile& file, GifWay way)
+    : m_image(image), m_file(file), m_way(way)
+{
+    if (way == GifWay::Observed)
+        return;
+    m_bytes = file.m_pData;
+    m_size = m_bytes ? file.m_nLogicalSize : 0;
+}
+
+CKxGifImage::GifReading::Result CKxGifImage::GifReading::Decode()
 {
     m_file.Read(&m_screen, sizeof m_screen, 1); // what is missing is zero
     if (std::memcmp(m_screen.header, "GIF8", 4) != 0)
-        return false;
+        return Result::Failed;
     if (m_image.GetEscape() == -1)
     {
         m_image.Destroy();
         m_image.m_Head.biWidth = m_screen.screenWidth;
         m_image.m_Head.biHeight = m_screen.screenHeight;
-        return true;
+        return Result::Good;
     }
     m_table.colorResolution = static_cast<std::int16_t>(((m_screen.flags & 0x70) >> 3) + 1);
     m_table.sogct = static_cast<std::int16_t>(1 << ((m_screen.flags & 7) + 1));
@@ -23,8 +56,14 @@ bool CKxGifImage::GifReading::Decode()
     ReadTable(m_screen.flags, m_table);
     GifImageInfo& info = m_image.m_Info;
     info.nNumFrames = CountFrames(m_table, m_screen);
-    if (info.nFrame < 0 || info.nFrame >= info.nNumFrames)
-        return false;
+    const bool found = info.nFrame >= 0 && info.nFrame < info.nNumFrames;
+    if (m_way == GifWay::OnePass && !(m_sound && found))
+        return Result::Again;
+    if (!found)
+    {
+        LeaveLastCounted();
+        return Result::Failed;
+    }
     if (info.nNumFrames == 1)
         m_score = 0;
     return Scan();
@@ -49,16 +88,9 @@ unsigned long CKxGifImage::GifReading::DepthOf(const tag_TabCol& table)
     return table.sogct <= 2 ? 1 : table.sogct > 16 ? 8 : 4;
 }
 
-// A picture of no pixels is none, and is no reason to stop.
-bool CKxGifImage::GifReading::CannotCreate(void* block, unsigned long width, unsigned long height)
-{
-    return !block && width != 0 && height != 0;
-}
-
 int CKxGifImage::GifReading::CountFrames(tag_TabCol table, const tag_dscgif& screen)
 {
     const long start = m_file.Tell();
-    int count = 0;
     bool afterNull = true;
     std::uint8_t value = 0;
     while (ReadByte(value))
@@ -69,7 +101,7 @@ int CKxGifImage::GifReading::CountFrames(tag_TabCol table, const tag_dscgif& scr
             m_image.DecodeExtension(&m_file);
         else if (value == ',')
         {
-            if (!CountFrame(table, screen, count))
+            if (!CountFrame(table, screen))
                 break;
         }
         else if (value == ';')
@@ -78,133 +110,98 @@ int CKxGifImage::GifReading::CountFrames(tag_TabCol table, const tag_dscgif& scr
             afterNull = value == 0;
     }
     m_file.Seek(start, 0);
-    return count;
+    return static_cast<int>(m_counted.size());
 }
 
-// A frame is decoded only to find the end of its raster.
-bool CKxGifImage::GifReading::CountFrame(tag_TabCol& table, const tag_dscgif& screen, int& count)
+// False when there is no use in going on.
+bool CKxGifImage::GifReading::CountFrame(tag_TabCol& table, const tag_dscgif& screen)
 {
     tag_image descriptor{};
     if (!ReadDescriptor(descriptor) || !IsInside(descriptor, screen))
         return true;
-    ++count;
     ReadTable(descriptor.flags, table);
-    void* const block = m_image.Create(descriptor.width, descriptor.height, DepthOf(table));
-    if (CannotCreate(block, descriptor.width, descriptor.height))
+    m_counted.push_back({descriptor, DepthOf(table), Position(), 0});
+    Frame& frame = m_counted.back();
+    if (m_way == GifWay::Observed)
+        return CountObserved(frame);
+    if (IsTooLarge(descriptor))
+    {
+        m_sound = false;
         return false;
-    const long rasterStart = m_file.Tell();
+    }
+    if (m_way == GifWay::TwoPasses)
+        CountLengths(frame);
+    else
+        CountBlocks(frame);
+    return m_sound;
+}
+
+// The frame is really decoded, only to find the end of its raster.
+bool CKxGifImage::GifReading::CountObserved(const Frame& frame)
+{
+    const tag_image& descriptor = frame.descriptor;
+    if (!m_image.Create(descriptor.width, descriptor.height, frame.depth) && HasPixels(descriptor))
+        return false;
     BeginRaster(descriptor);
     CKxGifImageIterator iterator(&m_image);
     iterator.Upset();
     DecodeRaster(&iterator, descriptor.width);
-    EndRaster(rasterStart);
+    EndRaster(frame.start);
     return true;
 }
 
-void CKxGifImage::GifReading::BeginRaster(const tag_image& descriptor)
+void CKxGifImage::GifReading::CountLengths(const Frame& frame)
 {
-    m_image.m_input.readIndex = InputBuffer::ForceRefill;
-    m_image.m_interlace = {descriptor.flags & 0x40, 0, 8, descriptor.height, 0};
+    const LzwDecoderState& state = m_image.m_lzwDecoder;
+    if (HasPixels(frame.descriptor) && state.prefixFilled)
+        m_prefixBefore.assign(state.prefix.data() + state.prefix.size() / 2, state.prefix.data() + state.prefix.size());
+    DecodeBytes(frame, nullptr);
+    EndRaster(frame.start);
 }
 
-void CKxGifImage::GifReading::EndRaster(long start)
+void CKxGifImage::GifReading::CountBlocks(Frame& frame)
 {
-    if (BadCodes() != 0)
-        m_image.seek_next_image(&m_file, start);
-    else
-        m_file.Seek(m_image.m_input.readIndex - m_image.m_input.validCount + 1, 1);
+    std::size_t at = frame.start;
+    m_sound = HasPixels(frame.descriptor) && at < m_size && m_bytes[at] >= 2 && m_bytes[at] <= 9;
+    ++at;
+    while (m_sound && at < m_size && m_bytes[at] != 0)
+        at += m_bytes[at] + std::size_t{1};
+    m_sound = m_sound && at < m_size;
+    frame.end = at + 1;
+    m_file.Seek(static_cast<long>(at + 1), 0);
 }
 
-/// Rows on their way into the image.
-class CKxGifImage::GifReading::RowsOfImage final : public GifRowSink
+// The plain form has counted in the image itself, so that the last counted frame is found there when no other picture
+// takes its place.
+void CKxGifImage::GifReading::LeaveLastCounted()
 {
-public:
-    RowsOfImage(CKxGifImage& image, CKxGifImageIterator* iterator, std::size_t width)
-        : m_image(image), m_iterator(iterator), m_width(width)
+    if (m_way != GifWay::TwoPasses || m_counted.empty())
+        return;
+    m_image.Destroy();
+    const auto last =
+        std::find_if(m_counted.rbegin(), m_counted.rend(),
+                     [](const Frame& frame) { return HasPixels(frame.descriptor) && !IsTooLarge(frame.descriptor); });
+    if (last == m_counted.rend())
+        return;
+    const tag_image& descriptor = last->descriptor;
+    m_image.Create(descriptor.width, descriptor.height, last->depth);
+    if (last != m_counted.rbegin())
     {
-    }
-    void TakeRows(const std::uint8_t* pixels, std::size_t count) override
-    {
-        for (std::size_t i = 0; i < count; ++i)
-            StoreRow(m_image, m_iterator, pixels + i * m_width, m_width);
-    }
-    void TakePart(const std::uint8_t* pixels, std::size_t length) override
-    {
-        StoreRow(m_image, m_iterator, pixels, length);
-    }
-
-private:
-    CKxGifImage& m_image;
-    CKxGifImageIterator* m_iterator;
-    std::size_t m_width;
-};
-
-GifLzwDecoder::End CKxGifImage::GifReading::DecodeRaster(CKxGifImageIterator* iterator, std::uint32_t width)
-{
-    RowsOfImage rows(m_image, iterator, width);
-    GifRaster raster;
-    raster.width = width;
-    raster.sink = &rows;
-    raster.window = 65536;
-    if (m_image.m_interlace.interlaced == 0)
-    {
-        CKxGifImage* const target = iterator ? static_cast<CKxGifImage*>(*iterator) : nullptr;
-        const bool ready = target && target->IsValid() && iterator->ItOK() != 0;
-        raster.rows = ready ? static_cast<std::uint64_t>(iterator->GetY()) + 1 : 0;
-    }
-    GifFileInput input(m_file, m_image.m_input);
-    return m_lzw.Decode(m_image.m_lzwDecoder, input, raster);
-}
-
-namespace
-{
-void storePixels(CKxGifImage& target, CKxGifImageIterator& iterator, const std::uint8_t* row, std::size_t length)
-{
-    std::uint8_t packed[32768 / 2];
-    length = std::min<std::size_t>(length, target.GetWidth());
-    const int bits = target.GetBpp();
-    if (bits >= 8)
-    {
-        iterator.SetRow(const_cast<std::uint8_t*>(row), static_cast<int>(length));
+        m_image.Destroy();
         return;
     }
-    length = std::min<std::size_t>(length, 32768);
-    const std::size_t bytes = (length * static_cast<std::size_t>(bits) + 7) / 8;
-    iterator.GetRow(packed, static_cast<int>(bytes));
-    packRow(packed, row, length, bits);
-    iterator.SetRow(packed, static_cast<int>(bytes));
-}
-} // namespace
-
-bool CKxGifImage::GifReading::StoreRow(CKxGifImage& image, CKxGifImageIterator* iterator, const std::uint8_t* row,
-                                       std::size_t length)
-{
-    CKxGifImage* const found = iterator ? static_cast<CKxGifImage*>(*iterator) : nullptr;
-    CKxGifImage* const target = found && found->IsValid() ? found : nullptr;
-    InterlaceState& interlace = image.m_interlace;
-    if (interlace.interlaced == 0)
-    {
-        if (!target || iterator->ItOK() == 0)
-            return false;
-        storePixels(*target, *iterator, row, length);
-        iterator->PrevRow();
-        return true;
-    }
-    if (target)
-    {
-        iterator->SetY(interlace.frameHeight - interlace.rowPosition -
-                       1); // a row beyond the end goes where the last went
-        storePixels(*target, *iterator, row, length);
-    }
-    interlace.rowPosition += interlace.rowStep;
-    if (interlace.rowPosition < interlace.frameHeight)
-        return true;
-    do
-    {
-        if (interlace.pass > 0)
-            interlace.rowStep /= 2;
-        ++interlace.pass;
-        interlace.rowPosition = interlace.rowStep / 2;
-    } while (interlace.rowPosition > interlace.frameHeight);
-    return true;
+    const std::size_t position = Position();
+    LzwDecoderState& state = m_image.m_lzwDecoder;
+    const LzwDecoderState after = state;
+    if (!m_prefixBefore.empty())
+        std::copy(m_prefixBefore.begin(), m_prefixBefore.end(), state.prefix.data() + state.prefix.size() / 2);
+    else
+        state.prefixFilled = false;
+    m_file.Seek(static_cast<long>(last->start), 0);
+    BeginRaster(descriptor);
+    CKxGifImageIterator iterator(&m_image);
+    iterator.Upset();
+    DecodeRaster(&iterator, descriptor.width);
+    state = after;
+    m_file.Seek(static_cast<long>(position), 0);
 }

@@ -1,6 +1,8 @@
 // Reading GIF: the operations of the image class.
 #include <algorithm>
 #include <cstring>
+#include <new>
+#include <typeinfo>
 
 #include "GifReading.h"
 #include "GifRowPacking.h"
@@ -23,8 +25,26 @@ bool CKxGifImage::Decode(unsigned char* data, unsigned long size)
 }
 
 bool CKxGifImage::Decode(CKxMemFile* file)
+try
 {
-    return file && GifReading(*this, *file).Decode();
+    if (!file)
+        return false;
+    const bool plain = typeid(*file) == typeid(CKxMemFile) && GetEscape() == 0 && !m_Info.pGhostOf;
+    if (!plain)
+        return GifReading(*this, *file, GifWay::Observed).Decode() == GifReading::Result::Good;
+    const long start = file->Tell();
+    const GifReading::Before before(*this);
+    const GifReading::Result result = GifReading(*this, *file, GifWay::OnePass).Decode();
+    if (result != GifReading::Result::Again)
+        return result == GifReading::Result::Good;
+    before.PutBack(*this);
+    file->Seek(start, 0);
+    return GifReading(*this, *file, GifWay::TwoPasses).Decode() == GifReading::Result::Good;
+}
+catch (const std::bad_alloc&)
+{
+    Destroy();
+    return false;
 }
 
 namespace
@@ -145,7 +165,7 @@ short CKxGifImage::decoder(CKxMemFile* file, CKxGifImageIterator* iterator, shor
     badCodes = 0;
     if (!file)
         return -1;
-    GifReading reading(*this, *file);
+    GifReading reading(*this, *file, GifWay::Observed);
     // A width of 32,768 or more comes as a negative one, and is the row that cannot be allocated.
     const GifLzwDecoder::End end = reading.DecodeRaster(iterator, static_cast<std::uint16_t>(width));
     badCodes = reading.BadCodes();
@@ -155,6 +175,7 @@ short CKxGifImage::decoder(CKxMemFile* file, CKxGifImageIterator* iterator, shor
         return LzwDecoderState::BadCodeSize;
     case GifLzwDecoder::End::NoMemory:
         return LzwDecoderState::OutOfMemory;
+    case GifLzwDecoder::End::NoCodeSize:
     case GifLzwDecoder::End::OutOfRows:
         return -1;
     default:
@@ -164,7 +185,7 @@ short CKxGifImage::decoder(CKxMemFile* file, CKxGifImageIterator* iterator, shor
 
 int CKxGifImage::get_num_frames(CKxMemFile* file, tag_TabCol* table, tag_dscgif* screen)
 {
-    return file && table && screen ? GifReading(*this, *file).CountFrames(*table, *screen) : 0;
+    return file && table && screen ? GifReading(*this, *file, GifWay::Observed).CountFrames(*table, *screen) : 0;
 }
 
 long CKxGifImage::seek_next_image(CKxMemFile* file, long position)

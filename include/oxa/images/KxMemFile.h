@@ -75,5 +75,7 @@ protected:
     std::uint32_t m_nCapacity;
 
 private:
+    friend class CKxGifImage; // decodes from the bytes as they lie
+
     bool MakeRoom(std::uint64_t end, const unsigned char*& source);
 };
