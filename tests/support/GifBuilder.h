@@ -29,7 +29,7 @@ public:
 
     void put(int code)
     {
-        m_bits |= static_cast<std::uint64_t>(code) << m_count;
+        m_bits |= (static_cast<std::uint64_t>(code) & ((1U << m_width) - 1U)) << m_count;
         m_count += m_width;
         for (; m_count >= 8; m_count -= 8, m_bits >>= 8)
             m_bytes.push_back(static_cast<std::uint8_t>(m_bits));

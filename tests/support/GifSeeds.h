@@ -137,11 +137,11 @@ inline std::vector<Seed> hostileSeeds()
             .frame({1, 1, 2, 2}, 2, {3, 2, 1, 0})
             .trailer();
     };
-    add("code_above_the_next_free", ofCodes({4, 1, 2, 7, 3, 7, 5}));
-    add("prefix_chain_in_a_circle", ofCodes({4, 1, 7, 7, 6, 7, 1, 5}));
-    add("prefix_that_is_no_entry_yet", ofCodes({4, 1, 2, 15, 2, 7, 8, 9, 5}));
+    add("code_above_the_next_free", ofCodes({4, 1, 7, 3, 2, 1, 5}));
+    add("prefix_chain_in_a_circle", ofCodes({4, 1, 7, 3, 1, 7, 2, 5}));
+    add("prefix_that_is_no_entry_yet", ofCodes({4, 1, 2, 3, 15, 1, 9, 8, 5}));
     add("no_clear_code_at_all", ofCodes({6, 1, 2, 6, 3, 7, 5}));
-    add("entry_before_the_clear_code", ofCodes({4, 1, 2, 3, 6, 7, 4, 1, 9, 8, 2, 7, 6, 5}));
+    add("entry_before_the_clear_code", ofCodes({4, 1, 2, 3, 4, 1, 7, 7, 2, 7, 6, 5}));
     add("clear_codes_in_a_row", ofCodes({4, 4, 4, 1, 2, 4, 4, 3, 5}));
     add("free_code_behind_a_clear_code", ofCodes({4, 7, 1, 2, 6, 5}));
     add("end_code_at_once", ofCodes({5}));

@@ -28,6 +28,20 @@ public:
     std::uint8_t control[4] = {};
     DecodedPicture picture{};
 
+    /// As after construction, with the memory that is there.
+    void reset()
+    {
+        transparentIndex = -1;
+        std::memset(transparentColour, 0, sizeof transparentColour);
+        std::memset(control, 0, sizeof control);
+        frame = frames = disposal = loops = escape = 0;
+        delay = 0;
+        comment.clear();
+        picture.drop();
+        picture.width = picture.height = 0;
+        m_raster.forget();
+    }
+
     bool decode(ByteStream& stream)
     {
         Screen screen;

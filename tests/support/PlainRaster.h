@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -63,6 +64,9 @@ public:
             sink(m_row.data(), m_filled);
     }
 
+    /// As after construction.
+    void forget() { std::memset(m_prefix, 0, sizeof m_prefix); }
+
     /// Where the byte behind the last used one stands, relative to the position of the stream.
     int unread() const { return m_readIndex - m_validCount; }
 
@@ -91,10 +95,8 @@ private:
         m_end = m_clear + 1;
         m_firstFree = m_next = m_clear + 2;
         m_bytesLeft = m_bitsLeft = 0;
-        for (int i = 0; i < 4096; ++i)
-            m_suffix[i] = 0;
-        for (int i = 0; i < 2048; ++i) // half of the table, which is meant
-            m_prefix[i] = 0;
+        std::memset(m_suffix, 0, sizeof m_suffix);
+        std::memset(&m_prefix[0], 0, 4096); // half of the table, which is meant
     }
 
     /// 0, or the failed read.
