@@ -2,9 +2,10 @@
 #include "RowComparison.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <limits>
-#include <numeric>
+#include <unordered_map>
 
 #include "StableSort.h"
 #include "kitrel/KxImperialLength.h"
@@ -15,7 +16,10 @@ namespace treelist
 namespace
 {
 
-constexpr std::wstring_view digits = L"0123456789";
+constexpr bool IsDigit(wchar_t character)
+{
+    return character >= L'0' && character <= L'9';
+}
 
 /// The number of a run of digits; no digits are 0.
 int NumberOf(std::wstring_view text)
@@ -24,7 +28,7 @@ int NumberOf(std::wstring_view text)
     int number = 0;
     for (const wchar_t character : text)
     {
-        if (character < L'0' || character > L'9')
+        if (!IsDigit(character))
             break;
         const int digit = static_cast<int>(character - L'0');
         if (number > (largest - digit) / 10)
@@ -66,16 +70,105 @@ int CompareTexts(const SortKey& a, const SortKey& b)
     return RowComparison::CompareBlindToCase(a.text, b.text);
 }
 
+/// Turns exactly 1 and -1 around, on purpose: a larger difference of characters passes as it is.
+int Directed(int result, bool ascending)
+{
+    return !ascending && (result == 1 || result == -1) ? -result : result;
+}
+
+/// Whether no text that starts like this one can be a length: a number stands first there, behind blanks and a sign.
+bool StartsLikeNoLength(std::wstring_view text)
+{
+    const std::int64_t first = text.empty() ? 'a' : Folded(text.front());
+    return first >= 'a' && first <= 'z';
+}
+
+/// What most comparisons of a sort need, side by side: the key's text is far away in memory.
+struct SortItem
+{
+    enum : int
+    {
+        startLength = 8,
+        laneBits = 8,
+        largestLane = 0xFF
+    };
+
+    std::uint64_t word = 0;   ///< of a length its inches; else the start of the text, folded, a lane a character
+    std::uint32_t place = 0;  ///< of the key
+    std::uint32_t prefix = 0; ///< the same number for the same prefix
+    int number = 0;
+    bool isLength = false;
+    bool hasDigits = false;
+    bool hasStart = false; ///< the word holds a start, of which no character was too large for its lane, or 0
+};
+
+void TakeStart(SortItem& item, std::wstring_view text)
+{
+    item.hasStart = true;
+    for (std::size_t i = 0; i < SortItem::startLength; ++i)
+    {
+        item.word <<= SortItem::laneBits;
+        if (i >= text.size())
+            continue;
+        const std::int64_t folded = Folded(text[i]);
+        item.hasStart = item.hasStart && folded > 0 && folded <= SortItem::largestLane;
+        item.word |= static_cast<std::uint64_t>(folded) & SortItem::largestLane;
+    }
+}
+
+std::vector<SortItem> ItemsOf(const std::vector<SortKey>& keys)
+{
+    std::unordered_map<std::wstring_view, std::uint32_t> prefixes;
+    std::vector<SortItem> items(keys.size());
+    for (std::uint32_t place = 0; place < keys.size(); ++place)
+    {
+        const SortKey& key = keys[place];
+        SortItem& item = items[place];
+        item.place = place;
+        item.number = key.number;
+        item.isLength = key.isLength;
+        item.hasDigits = key.hasDigits;
+        item.prefix = prefixes.try_emplace(key.text.substr(0, key.prefixLength), place).first->second;
+        if (key.isLength)
+            item.word = std::bit_cast<std::uint64_t>(key.inches);
+        else
+            TakeStart(item, key.text);
+    }
+    return items;
+}
+
+/// The difference of the first lanes that differ.
+int CompareStarts(std::uint64_t a, std::uint64_t b)
+{
+    constexpr int lane = SortItem::laneBits;
+    const int shift = (63 - std::countl_zero(a ^ b)) / lane * lane;
+    return static_cast<int>((a >> shift) & SortItem::largestLane) -
+           static_cast<int>((b >> shift) & SortItem::largestLane);
+}
+
+/// The answer of `RowComparison::Compare`, from the texts only where the items do not tell it.
+int CompareItems(const SortItem& a, const SortItem& b, const std::vector<SortKey>& keys)
+{
+    if (a.isLength && b.isLength)
+        return CompareLengths(std::bit_cast<double>(a.word), std::bit_cast<double>(b.word));
+    if (a.prefix == b.prefix && a.number != b.number && (a.hasDigits || b.hasDigits))
+        return a.number > b.number ? 1 : -1;
+    if (a.hasStart && b.hasStart && a.word != b.word)
+        return CompareStarts(a.word, b.word);
+    return RowComparison::CompareBlindToCase(keys[a.place].text, keys[b.place].text);
+}
+
 } // namespace
 
 SortKey RowComparison::KeyOf(std::wstring_view text)
 {
     SortKey key;
     key.text = text;
-    const std::size_t digit = text.find_first_of(digits);
-    key.hasDigits = digit != std::wstring_view::npos;
-    key.prefixLength = key.hasDigits ? digit : text.size();
+    key.prefixLength = static_cast<std::size_t>(std::find_if(text.begin(), text.end(), IsDigit) - text.begin());
+    key.hasDigits = key.prefixLength < text.size();
     key.number = NumberOf(text.substr(key.prefixLength));
+    if (StartsLikeNoLength(text))
+        return key;
     const CString terminated(text.data(), HeldInInt(static_cast<std::int64_t>(text.size())));
     key.isLength = CKxImperialLength::ImperialStr2Inches(terminated, IMPERIAL_LENGTH_ANY, key.inches);
     return key;
@@ -84,8 +177,7 @@ SortKey RowComparison::KeyOf(std::wstring_view text)
 int RowComparison::Compare(const SortKey& a, const SortKey& b, bool ascending)
 {
     const int result = a.isLength && b.isLength ? CompareLengths(a.inches, b.inches) : CompareTexts(a, b);
-    // Only exactly 1 and -1 are turned around, on purpose: a larger difference of characters passes as it is.
-    return !ascending && (result == 1 || result == -1) ? -result : result;
+    return Directed(result, ascending);
 }
 
 int RowComparison::CompareBlindToCase(std::wstring_view a, std::wstring_view b)
@@ -104,10 +196,13 @@ int RowComparison::CompareBlindToCase(std::wstring_view a, std::wstring_view b)
 
 std::vector<std::uint32_t> RowComparison::Order(const std::vector<SortKey>& keys, bool ascending)
 {
-    std::vector<std::uint32_t> order(keys.size());
-    std::iota(order.begin(), order.end(), 0U);
-    StableSort(order, c_nLongestInsertion,
-               [&](std::uint32_t a, std::uint32_t b) { return Compare(keys[a], keys[b], ascending); });
+    std::vector<SortItem> items = ItemsOf(keys);
+    StableSort(items, c_nLongestInsertion,
+               [&](const SortItem& a, const SortItem& b) { return Directed(CompareItems(a, b, keys), ascending); });
+    std::vector<std::uint32_t> order;
+    order.reserve(items.size());
+    for (const SortItem& item : items)
+        order.push_back(item.place);
     return order;
 }
 

@@ -193,6 +193,33 @@ TEST(RowOrder, of_a_short_list_is_that_of_insertion_though_the_comparison_is_no_
     }
 }
 
+TEST(RowOrder, goes_by_what_stands_behind_the_eighth_character_and_beyond_latin_1)
+{
+    const std::vector<std::wstring> starts = {
+        L"",          L"abcdefg",   L"abcdefgh", L"abcdefghi", L"ABCDEFGHJ", L"abcdefg\u00E9",
+        L"ab\u0416c", L"ab\u0416d", L"ab\u00FF", L"ab\u0100",  L"1'-6\"",    L"18",
+        L"17 in",     L"-x",        L"a",        L"A1",        L"a1b",       L"a01B"};
+    std::mt19937 random(20240615); // a fixed seed
+    for (int round = 0; round < 60; ++round)
+    {
+        std::vector<std::wstring> texts;
+        for (int count = 0; count < 40; ++count)
+            texts.push_back(starts[random() % starts.size()] + starts[random() % starts.size()]);
+        for (const bool ascending : {true, false})
+            ASSERT_EQ(Sorted(texts, ascending), plainrows::Inserted(texts, ascending)) << round;
+    }
+}
+
+TEST(RowOrder, a_terminator_inside_a_text_compares_as_its_end)
+{
+    const std::wstring closed(L"a\0b", 3), open(L"a");
+    for (const bool ascending : {true, false})
+    {
+        EXPECT_EQ(RowComparison::Compare(RowComparison::KeyOf(closed), RowComparison::KeyOf(open), ascending), 0);
+        EXPECT_EQ(Sorted({closed, open}, ascending), (std::vector<std::size_t>{0, 1}));
+    }
+}
+
 TEST(RowOrder, of_a_long_list_is_that_of_insertion_where_the_comparison_is_an_order)
 {
     std::mt19937 random(20240613); // a fixed seed
