@@ -117,8 +117,12 @@ template <class Work> double milliseconds(int repeats, Work work)
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count() / repeats;
 }
 
+const char* g_only = nullptr; // the picture that was asked for
+
 void compare(const char* name, Bytes bytes, long frame, double floor, double goal)
 {
+    if (g_only && std::strstr(name, g_only) == nullptr)
+        return;
     constexpr int rounds = 41; // in turn, so that a busy machine slows both
     const double once = milliseconds(1, [&] { giflibDecode(bytes); });
     const int repeats = std::max(1, static_cast<int>(2.0 / once));
@@ -182,8 +186,11 @@ std::vector<bench::Picture> spinner()
 }
 } // namespace
 
-int main()
+// bench_gif_decode [PICTURE]
+int main(int count, char** arguments)
 {
+    if (count > 1)
+        g_only = arguments[1];
     std::printf("%-18s %9s %9s %9s %8s %8s %7s %6s\n", "picture", "bytes", "best ms", "giflib", "best", "median",
                 "floor", "goal");
     compare("screen", streamOf({bench::screen()}, Order::Straight), 0, 10, 20);
