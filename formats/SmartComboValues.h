@@ -1,0 +1,170 @@
+// The values of a smart combo box and the format that it is under, over any combo box.
+#pragma once
+
+#include <set>
+#include <utility>
+#include <vector>
+#include "RememberedValues.h"
+#include "SmartComboConcept.h"
+#include "oxa/formats/KxSemantic.h"
+#include "oxa/formats/SmartComboData.h"
+
+/// Values go into the combo box and into the control's own list; a difference between the two is not repaired.
+template <smartcombo::ComboBox Combo> class SmartComboValues
+{
+public:
+    SmartComboValues(SmartComboData& data, Combo& combo) : m_data(data), m_combo(combo) {}
+
+    // ---- The format
+
+    /// Throws CInvalidArgException when the format has no element, as the empty one; the elements are gone then.
+    void SetFormat(CString format)
+    {
+        m_data.formatText = std::move(format);
+        ResetSelectText();
+    }
+    void SetFormatEmpty()
+    {
+        m_data.formatText.Empty();
+        m_combo.SetEditText(L"");
+    }
+    void ResetSelectText()
+    {
+        CreateFormat();
+        ShowFormat();
+    }
+    void GetFeatureFormat(CString& separator, CList<int, int>& values)
+    {
+        CKxSemantic semantic;
+        CString formatText = m_data.formatText;
+        semantic.CheckSyntax(formatText);
+        semantic.GetFeatureFormat(m_data.format, separator, values);
+    }
+    void SetListFilterString(const CStringList& filters)
+    {
+        const std::vector<CString> copy = RememberedValues::Copy(filters);
+        RememberedValues::Fill(m_data.filterList, copy, false);
+        RememberedValues::Fill(m_data.formatList, copy, false);
+    }
+    void GetListFilterString(CStringList& filters) const { RememberedValues::Append(filters, m_data.filterList); }
+
+    // ---- Values
+
+    void AddStringCombo(const CString& value)
+    {
+        if (m_combo.FindStringExact(smartcombo::none, value) != smartcombo::none)
+            return;
+        m_combo.AddString(value);
+        RememberedValues::Insert(m_data.list, value, m_data.sort != 0);
+    }
+    void DeleteStringCombo(unsigned int index)
+    {
+        const CString text = m_combo.GetItemText(static_cast<int>(index));
+        if (m_combo.DeleteString(index) >= 0)
+            Forget(text);
+    }
+    /// The case of the text counts for the list, and not for the combo box: kept on purpose.
+    void DeleteStringCombo(const CString& text)
+    {
+        const CString argument = text; // it may be the item itself
+        const int index = m_combo.FindStringExact(smartcombo::none, argument);
+        if (index == smartcombo::none)
+            return;
+        m_combo.DeleteString(static_cast<unsigned int>(index));
+        Forget(argument);
+    }
+    void ResetContent()
+    {
+        m_combo.ResetContent();
+        m_data.list.RemoveAll();
+    }
+    void SetStringCombo(const CStringList& values)
+    {
+        std::vector<CString> copy = RememberedValues::Copy(values);
+        ResetContent();
+        AddAll(std::move(copy));
+        if (!m_data.formatText.IsEmpty())
+            CreateFormat();
+        ShowFormat();
+    }
+    void SortCombo()
+    {
+        const bool selected = m_combo.GetCurSel() != smartcombo::none;
+        const CString kept = selected ? m_combo.GetEditText() : CString();
+        CStringList sorted;
+        RememberedValues::Sort(m_data.list, sorted);
+        SetStringCombo(sorted);
+        if (selected)
+            SetCurSel(kept);
+    }
+
+    // ---- Selection and text
+
+    int GetCurSel() const { return m_combo.GetCurSel(); }
+    int SetCurSel(const CString& text)
+    {
+        const int index = Find(text, true);
+        if (index == smartcombo::none)
+            return smartcombo::none;
+        m_combo.SetCurSel(index);
+        return 0;
+    }
+    void GetSelectText(CString& text) const
+    {
+        text = m_combo.GetEditText();
+        text.TrimRight(L' ');
+    }
+    void SetSelectText(const CString& text) { m_combo.SetEditText(text); }
+    void ClearControl()
+    {
+        m_data.formatText.Empty();
+        m_combo.SetCurSel(smartcombo::none);
+        m_data.visibility = 0;
+    }
+
+protected:
+    void CreateFormat()
+    {
+        CKxSemantic semantic;
+        CString formatText = m_data.formatText;
+        semantic.CheckSyntax(formatText); // a bad format goes on with the nodes that it has
+        m_data.format.DeleteFormat();
+        semantic.CreateListFormat(m_data.format);
+        m_data.format.SetModified(0);
+    }
+    void ShowFormat() { m_combo.SetEditText(m_data.format.CreateEditFormat()); }
+
+    int Find(const CString& text, bool whole = false) const
+    {
+        return whole ? m_combo.FindStringExact(smartcombo::none, text) : m_combo.FindString(smartcombo::none, text);
+    }
+    static CString Unmasked(const CString& text) { return CKxSemantic().GetStringUnMasked(text); }
+
+    SmartComboData& m_data;
+    Combo& m_combo;
+
+private:
+    void Forget(const CString& text)
+    {
+        if (const POSITION place = m_data.list.Find(text))
+            m_data.list.RemoveAt(place);
+    }
+
+    // The same as AddStringCombo of each value into the empty control, without a search through the combo box for each.
+    void AddAll(std::vector<CString> values)
+    {
+        std::set<std::wstring> present;
+        std::vector<CString> added;
+        added.reserve(values.size());
+        for (CString& value : values)
+        {
+            std::wstring key = m_combo.SearchKey(value);
+            if (present.contains(key))
+                continue;
+            if (m_combo.AddString(value) >= 0 && !key.empty())
+                present.insert(std::move(key));
+            added.push_back(std::move(value));
+        }
+        RememberedValues::Fill(m_data.list, std::move(added), m_data.sort != 0);
+    }
+};
