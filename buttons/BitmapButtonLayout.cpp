@@ -24,7 +24,9 @@ CPoint BitmapButtonLayout::Centre(CPoint position, CSize thing, CSize client)
 
 CPoint BitmapButtonLayout::ImageAt(const CRect& face, CSize client, bool hasCaption) const
 {
-    const CPoint beside(hasCaption ? kx::add(face.left, imageOffset) : centred, centred);
+    CPoint beside(centred, centred);
+    if (hasCaption)
+        beside.x = kx::add(face.left, imageOffset);
     return Centre(automatic ? beside : imagePosition, imageSize, client);
 }
 

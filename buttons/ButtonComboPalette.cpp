@@ -130,7 +130,7 @@ ButtonComboItem ButtonComboPalette::Item(const CRect& rect, long item) const
     if (hasTiles)
     {
         drawn.tile = rect.CenterPoint() - CSize(cell.cx / 2, cell.cy / 2);
-        drawn.tileX = kx::wrap(static_cast<long long>(item) * cell.cx);
+        drawn.tileX = kx::wrap(wide(kx::wrap(item)) * cell.cx);
     }
     else
     {

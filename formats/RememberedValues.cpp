@@ -2,12 +2,39 @@
 #include "RememberedValues.h"
 
 #include <algorithm>
+#include <cwchar>
+#include <numeric>
+#include <utility>
+#include <kx/CaseFold.h>
 
 namespace
 {
 bool isBelowWithoutCase(const CString& a, const CString& b)
 {
     return a.CompareNoCase(b) < 0;
+}
+
+/// A value with the form in which it is compared without regard to case.
+struct Folded
+{
+    explicit Folded(CString&& text) : key(text.GetString()), value(std::move(text))
+    {
+        for (wchar_t& ch : key)
+            ch = kx::foldLower(ch);
+    }
+
+    std::wstring key;
+    CString value;
+};
+
+void sortWithoutCase(std::vector<CString>& values)
+{
+    std::vector<Folded> folded;
+    folded.reserve(values.size());
+    for (CString& value : values)
+        folded.emplace_back(std::move(value));
+    std::stable_sort(folded.begin(), folded.end(), [](const Folded& a, const Folded& b) { return a.key < b.key; });
+    std::transform(folded.begin(), folded.end(), values.begin(), [](Folded& one) { return std::move(one.value); });
 }
 
 void append(CStringList& list, const std::vector<CString>& values)
@@ -75,9 +102,25 @@ void RememberedValues::Sort(const CStringList& values, CStringList& sorted)
 void RememberedValues::Fill(CStringList& list, std::vector<CString> values, bool sorted)
 {
     if (sorted)
-        std::stable_sort(values.begin(), values.end(), isBelowWithoutCase);
+        sortWithoutCase(values);
     list.RemoveAll();
     append(list, values);
+}
+
+std::vector<std::size_t> RememberedValues::FirstEqual(const std::vector<std::wstring>& keys)
+{
+    std::vector<std::size_t> order(keys.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::stable_sort(order.begin(), order.end(), [&keys](std::size_t a, std::size_t b) { return keys[a] < keys[b]; });
+    std::vector<std::size_t> first(keys.size());
+    std::size_t head = 0;
+    for (std::size_t i = 0; i < order.size(); ++i)
+    {
+        if (keys[order[head]] != keys[order[i]])
+            head = i;
+        first[order[i]] = order[head];
+    }
+    return first;
 }
 
 std::vector<CString> RememberedValues::Copy(const CStringList& list)

@@ -3,6 +3,8 @@
 
 #include <afxcoll.h>
 
+#include <cstddef>
+#include <string>
 #include <vector>
 #include "oxa/Export.h"
 
@@ -22,6 +24,9 @@ struct OXA_API RememberedValues
 
     /// Replaces the items by what Insert of each value in turn makes of an empty list. Takes n log n comparisons.
     static void Fill(CStringList& list, std::vector<CString> values, bool sorted);
+
+    /// For each key the place of the first one that equals it. Takes n log n comparisons.
+    static std::vector<std::size_t> FirstEqual(const std::vector<std::wstring>& keys);
 
     static std::vector<CString> Copy(const CStringList& list);
 

@@ -33,14 +33,19 @@ public:
     /// with `apply` the control moves under that format.
     int ValidFreeFormat(const CString& text, int apply)
     {
-        CKxSemantic semantic;
         const CKxUnit* const unit = m_owner.GetUnit();
-        if (unit != nullptr && unit->GetType() != UNITTYPE_METRIC)
-            semantic.SetUseArchitecturalFormat(true, *unit);
-        for (POSITION place = m_data.formatList.GetHeadPosition(); place != nullptr;)
+        CKxSemantic architectural;
+        const bool isArchitectural = unit != nullptr && unit->GetType() != UNITTYPE_METRIC;
+        if (isArchitectural)
+            architectural.SetUseArchitecturalFormat(true, *unit);
+        const auto count = static_cast<std::size_t>(m_data.formatList.GetCount());
+        std::size_t index = 0;
+        for (POSITION place = m_data.formatList.GetHeadPosition(); place != nullptr; ++index)
         {
             CString format = m_data.formatList.GetNext(place);
-            semantic.CheckSyntax(format); // a bad format goes on with the nodes that it has
+            if (isArchitectural)
+                architectural.CheckSyntax(format); // a bad format goes on with the nodes that it has
+            const CKxSemantic& semantic = isArchitectural ? architectural : m_data.readings.At(index, count, format);
             if (semantic.ValidAdd(text) != 0)
             {
                 Accept(text, format, apply);

@@ -1,7 +1,8 @@
 // The values of a smart combo box and the format that it is under, over any combo box.
 #pragma once
 
-#include <set>
+#include <cstddef>
+#include <string>
 #include <utility>
 #include <vector>
 #include "RememberedValues.h"
@@ -153,17 +154,20 @@ private:
     // The same as AddStringCombo of each value into the empty control, without a search through the combo box for each.
     void AddAll(std::vector<CString> values)
     {
-        std::set<std::wstring> present;
+        std::vector<std::wstring> keys;
+        keys.reserve(values.size());
+        for (const CString& value : values)
+            keys.push_back(m_combo.SearchKey(value));
+        const std::vector<std::size_t> first = RememberedValues::FirstEqual(keys);
+        std::vector<bool> present(values.size());
         std::vector<CString> added;
         added.reserve(values.size());
-        for (CString& value : values)
+        for (std::size_t i = 0; i < values.size(); ++i)
         {
-            std::wstring key = m_combo.SearchKey(value);
-            if (present.contains(key))
+            if (present[first[i]])
                 continue;
-            if (m_combo.AddString(value) >= 0 && !key.empty())
-                present.insert(std::move(key));
-            added.push_back(std::move(value));
+            present[first[i]] = m_combo.AddString(values[i]) >= 0 && !keys[i].empty();
+            added.push_back(std::move(values[i]));
         }
         RememberedValues::Fill(m_data.list, std::move(added), m_data.sort != 0);
     }

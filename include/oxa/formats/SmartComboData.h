@@ -2,6 +2,7 @@
 #pragma once
 
 #include <afxcoll.h>
+#include "oxa/formats/FormatReadings.h"
 #include "oxa/formats/KxFormat.h"
 
 /// The data of one smart combo box, with the values that they have at first.
@@ -22,6 +23,7 @@ struct SmartComboData
     int bitmapMode = 0;                      ///< a number of BitmapMode
     int visibility = 0;                      ///< 1 once the user has touched the control, whatever the name says
     CStringList filterList{10};              ///< the texts of SetListFilterString
+    FormatReadings readings;                 ///< of formatList
 };
 
 /// What shows at the left of the combo box.

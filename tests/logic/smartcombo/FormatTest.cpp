@@ -109,6 +109,30 @@ TEST_F(SmartCombo, a_text_is_judged_by_the_alternatives_in_order)
     }
 }
 
+TEST_F(SmartCombo, alternatives_that_change_are_read_anew)
+{
+    const struct
+    {
+        const wchar_t* formats;
+        bool digits; ///< whether two digits fit
+        bool letters;
+    } rows[] = {
+        {L"[(N)2] [(C)2]", true, true},
+        {L"[(N)1] [(C)2]", false, true},
+        {L"[(N)1]", false, false},
+        {L"[(N)2]", true, false},
+        {L"", false, false},
+        {L"[(C)2] [(N)2]", true, true},
+    };
+    for (const auto& row : rows)
+        for (int again = 0; again < 2; ++again)
+        {
+            alternatives(row.formats);
+            EXPECT_EQ(smart.call().ValidFreeFormat(L"12", 0), row.digits ? 1 : 0) << row.formats;
+            EXPECT_EQ(smart.call().ValidFreeFormat(L"ab", 0), row.letters ? 1 : 0) << row.formats;
+        }
+}
+
 TEST_F(SmartCombo, the_picker_follows_the_alternative_that_fits)
 {
     const struct
@@ -152,7 +176,7 @@ TEST_F(SmartCombo, feet_and_inches_count_as_digits_with_a_unit_that_knows_them)
         EXPECT_EQ(smart.call().ValidFreeFormat(L"5'-6\"", 0), row.result) << row.range;
     }
     smart.unit.reset();
-    EXPECT_EQ(smart.call().ValidFreeFormat(L"5'-6\"", 0), 0);
+    EXPECT_EQ(smart.call().ValidFreeFormat(L"5'-6\"", 0), 0) << "what was read with the unit is not kept";
 }
 
 TEST_F(SmartCombo, a_button_is_looked_up_by_the_exact_format)

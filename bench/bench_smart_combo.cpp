@@ -1,0 +1,215 @@
+// How long a smart combo box judges a text by fifty formats, against fifty regular expressions (PCRE2, JIT) of the same
+// meaning; and how the time to fill and to sort it grows with the number of values, against the plain steps.
+#define PCRE2_CODE_UNIT_WIDTH 32
+#include <pcre2.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <random>
+#include <string>
+#include <vector>
+#include "support/PlainSmartCombo.h"
+
+namespace
+{
+using Clock = std::chrono::steady_clock;
+
+/// The quickest of some rounds, in nanoseconds.
+template <class Work> double fastest(int rounds, const Work& work)
+{
+    double best = 1e300;
+    for (int round = 0; round < rounds; ++round)
+    {
+        const auto start = Clock::now();
+        work();
+        best = std::min(best, std::chrono::duration<double, std::nano>(Clock::now() - start).count());
+    }
+    return best;
+}
+
+void require(bool good, const char* what)
+{
+    if (!good)
+    {
+        std::fprintf(stderr, "%s\n", what);
+        std::exit(1);
+    }
+}
+
+// ---- Fifty formats
+
+#define LETTER L"[A-Za-wyz\u00e0\u00e9\u00e8\u00e7\u00f9\u00ea\u00f4\u00ef\u00ee]"
+
+struct Rule
+{
+    std::wstring format;
+    std::wstring expression;
+};
+
+/// Up to so many digits, a literal, up to so many letters: no two alike.
+std::vector<Rule> fiftyRules()
+{
+    std::vector<Rule> rules;
+    for (int i = 0; i < 50; ++i)
+    {
+        const std::wstring digits = std::to_wstring(i % 5 + 1);
+        const std::wstring letters = std::to_wstring(i / 5 % 5 + 1);
+        const std::wstring literal = i < 25 ? L"-" : L"/";
+        rules.push_back({L"[(N)" + digits + L"]" + literal + L"[(C)" + letters + L"]",
+                         L"\\A[0-9]{0," + digits + L"}" + literal + LETTER L"{1," + letters + L"}\\z"});
+    }
+    return rules;
+}
+
+class Expression
+{
+public:
+    explicit Expression(const std::wstring& pattern)
+    {
+        int error = 0;
+        PCRE2_SIZE offset = 0;
+        m_code =
+            pcre2_compile(reinterpret_cast<PCRE2_SPTR>(pattern.c_str()), pattern.size(), 0, &error, &offset, nullptr);
+        require(m_code != nullptr, "an expression does not compile");
+        m_match = pcre2_match_data_create_from_pattern(m_code, nullptr);
+    }
+    ~Expression()
+    {
+        pcre2_match_data_free(m_match);
+        pcre2_code_free(m_code);
+    }
+    Expression(const Expression&) = delete;
+    Expression& operator=(const Expression&) = delete;
+
+    void makeQuick() { require(pcre2_jit_compile(m_code, PCRE2_JIT_COMPLETE) == 0, "no JIT"); }
+    bool accepts(const std::wstring& text) const
+    {
+        return pcre2_match(m_code, reinterpret_cast<PCRE2_SPTR>(text.c_str()), text.size(), 0, 0, m_match, nullptr) > 0;
+    }
+
+private:
+    pcre2_code* m_code;
+    pcre2_match_data* m_match = nullptr;
+};
+
+/// Our time for a text against that of the expressions: read anew for the text as our formats are, and kept ready.
+void judge(const std::vector<Rule>& rules, const wchar_t* text)
+{
+    constexpr int rounds = 300;
+    const std::wstring wide = text;
+    const CString value = text;
+    MemorySmartCombo smart;
+    for (const Rule& rule : rules)
+        smart.data().formatList.AddTail(rule.format.c_str());
+    int fits = 0;
+    const auto takenBy = [&](const Rule& rule) { return Expression(rule.expression).accepts(wide); };
+    const auto first = std::find_if(rules.begin(), rules.end(), takenBy);
+    require((first != rules.end()) == (smart.call().ValidFreeFormat(value, 0) != 0), "the two disagree");
+
+    std::vector<std::unique_ptr<Expression>> kept;
+    for (const Rule& rule : rules)
+    {
+        kept.push_back(std::make_unique<Expression>(rule.expression));
+        kept.back()->makeQuick();
+    }
+    const double ours = fastest(rounds, [&] { fits += smart.call().ValidFreeFormat(value, 0); });
+    const double anew = fastest(rounds, [&] { fits += std::any_of(rules.begin(), rules.end(), takenBy) ? 1 : 0; });
+    const double quick = fastest(rounds,
+                                 [&]
+                                 {
+                                     for (const auto& one : kept)
+                                         if (one->accepts(wide))
+                                         {
+                                             ++fits;
+                                             break;
+                                         }
+                                 });
+    volatile int sum = fits;
+    static_cast<void>(sum);
+    std::printf("%-14ls %12.0f %16.0f %9.3f %14.0f %9.3f\n", text, ours, anew, ours / anew, quick, ours / quick);
+}
+
+// ---- Many values
+
+void fillValues(CStringList& values, int count)
+{
+    std::vector<CString> texts;
+    for (int i = 0; i < count; ++i)
+    {
+        CString text;
+        text.Format(i % 3 == 0 ? L"Poutre %06d" : L"poteau %06d", i);
+        texts.push_back(text);
+    }
+    std::shuffle(texts.begin(), texts.end(), std::mt19937(20240620)); // a fixed seed
+    for (const CString& text : texts)
+        values.AddTail(text);
+}
+
+struct Times
+{
+    double fill;
+    double sort;
+};
+
+Times quickTimes(CStringList& values, int rounds)
+{
+    MemorySmartCombo smart;
+    Times times{};
+    times.fill = fastest(rounds, [&] { smart.call().SetStringCombo(values); });
+    RememberedValues::Assign(smart.data().list, values); // in disorder again; from then on in order
+    times.sort = fastest(1, [&] { smart.call().SortCombo(); });
+    return times;
+}
+
+Times plainTimes(CStringList& values)
+{
+    MemorySmartCombo smart;
+    Times times{};
+    times.fill = fastest(1, [&] { PlainSmartCombo::SetStringCombo(smart, values); });
+    RememberedValues::Assign(smart.data().list, values);
+    times.sort = fastest(1, [&] { PlainSmartCombo::SortCombo(smart); });
+    return times;
+}
+
+void grow()
+{
+    constexpr int plainMost = 10000; // beyond, the plain steps take minutes
+    Times first{};
+    for (const int count : {1000, 10000, 100000})
+    {
+        CStringList values;
+        fillValues(values, count);
+        const Times quick = quickTimes(values, 3);
+        const double size = count * std::log2(count) / (1000 * std::log2(1000));
+        if (count == 1000)
+            first = quick;
+        std::printf("%-8d %9.2f ms (%5.2f) %9.2f ms (%5.2f)", count, quick.fill / 1e6, quick.fill / first.fill / size,
+                    quick.sort / 1e6, quick.sort / first.sort / size);
+        if (count <= plainMost)
+        {
+            const Times plain = plainTimes(values);
+            std::printf(" %12.4f %9.4f", quick.fill / plain.fill, quick.sort / plain.sort);
+        }
+        std::printf("\n");
+    }
+}
+} // namespace
+
+int main()
+{
+    const std::vector<Rule> rules = fiftyRules();
+    std::printf("ValidFreeFormat over %zu formats, nanoseconds for one text\n", rules.size());
+    std::printf("%-14s %12s %16s %9s %14s %9s\n", "text", "ours", "PCRE2 anew", "ratio", "PCRE2 ready", "ratio");
+    judge(rules, L"12345/abcde"); // the last format takes it
+    judge(rules, L"1-a");         // the first one does
+    judge(rules, L"12345678");    // none does
+    judge(rules, L"12345/abcdef");
+    std::printf("\nfilling and sorting; in brackets the growth against n log n, 1.00 being that of 1,000 values\n");
+    std::printf("%-8s %20s %20s %12s %9s\n", "values", "SetStringCombo", "SortCombo", "fill/plain", "sort/plain");
+    grow();
+    return 0;
+}
