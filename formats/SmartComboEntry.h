@@ -29,6 +29,14 @@ public:
         valid = ValidFreeFormat(text, 0) != 0;
     }
 
+    /// Answers true also for a text that fits no format: kept on purpose.
+    bool getPatternAndValidate(CString& text)
+    {
+        bool valid = false;
+        GetSelectText(text, valid);
+        return true;
+    }
+
     /// 1 when one of the formats of the list accepts the text, else 0. The text joins the values then, whatever `apply` is;
     /// with `apply` the control moves under that format.
     int ValidFreeFormat(const CString& text, int apply)

@@ -275,6 +275,19 @@ TEST_F(SmartCombo, the_text_with_its_judgement_has_no_placeholders_and_joins_whe
     EXPECT_EQ(text, L"1 ");
 }
 
+TEST_F(SmartCombo, the_pattern_is_valid_whatever_the_text)
+{
+    alternatives(L"[(N)2]");
+    for (const wchar_t* const text : {L"1#2", L"ab#"})
+    {
+        smart.call().SetSelectText(text);
+        CString read;
+        EXPECT_TRUE(smart.call().getPatternAndValidate(read));
+        EXPECT_EQ(read, read == L"12" ? L"12" : L"ab");
+    }
+    EXPECT_EQ(smart.shown(), L"12 / 12 / ab#") << "the one that fits has joined";
+}
+
 TEST_F(SmartCombo, clearing_the_control_leaves_values_elements_and_formats)
 {
     remember(L"A B");
