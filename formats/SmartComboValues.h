@@ -67,12 +67,11 @@ public:
     /// The case of the text counts for the list, and not for the combo box: kept on purpose.
     void DeleteStringCombo(const CString& text)
     {
-        const CString argument = text; // it may be the item itself
-        const int index = m_combo.FindStringExact(smartcombo::none, argument);
+        const int index = Find(text, true);
         if (index == smartcombo::none)
             return;
         m_combo.DeleteString(static_cast<unsigned int>(index));
-        Forget(argument);
+        Forget(text);
     }
     void ResetContent()
     {
