@@ -116,6 +116,7 @@ void CKxTreeListViewCtrl::SetColumnEditStyle(const int& col, const int& style)
 void CKxTreeListViewCtrl::SetUnitManager(CKxUnitManager* manager)
 {
     m_pUnitManager = manager;
+    m_unitManagerLife = manager == nullptr ? std::weak_ptr<const void>() : manager->GetLife();
 }
 
 void CKxTreeListViewCtrl::SetHeaderCustomDraw(const bool& draw)

@@ -77,7 +77,7 @@ CWnd* CKxTreeListViewCtrl::ParentOfFrame() const
 
 bool CKxTreeListViewCtrl::IsColumnOfUnits(int column) const
 {
-    return m_columns.CanEdit(column) && m_columns.HasUnit(column) && m_pUnitManager != nullptr;
+    return m_columns.CanEdit(column) && m_columns.HasUnit(column) && UnitManager() != nullptr;
 }
 
 CEdit* CKxTreeListViewCtrl::GetEditControl(int column, CRect& rect)
@@ -91,7 +91,7 @@ CEdit* CKxTreeListViewCtrl::GetEditControl(int column, CRect& rect)
     editor->SetFont(GetFont(), TRUE);
     if (ofUnits)
     {
-        CKxUnit unit = m_pUnitManager->GetVisUnit(m_columns.UnitFamily(column));
+        CKxUnit unit = UnitManager()->GetVisUnit(m_columns.UnitFamily(column));
         static_cast<CKxUnitCtrl&>(*editor).SetDefaultValues(this, editorId, 0.0, unit, smallestValue, largestValue);
     }
     return editor.release();
@@ -333,7 +333,7 @@ void CKxTreeListViewCtrl::OnKeyDown(UINT key, UINT repeat, UINT flags)
         return;
     m_keyEdit = true;
     const HTREEITEM selected = GetSelectedItem();
-    if (m_pUnitManager != nullptr)
+    if (UnitManager() != nullptr)
         m_editColumn = m_columns.FirstEditedUnit(m_editColumn);
     if (selected != nullptr && m_columns.CanEdit(m_editColumn))
         EditLabel(selected);

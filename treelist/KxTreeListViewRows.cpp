@@ -88,7 +88,7 @@ double CKxTreeListViewCtrl::GetItemValue(HTREEITEM item, int)
 
 CString CKxTreeListViewCtrl::FormatValue(double value, int col)
 {
-    return treelist::ValueText::Format(value, col, m_columns, m_pUnitManager);
+    return treelist::ValueText::Format(value, col, m_columns, UnitManager());
 }
 
 BOOL CKxTreeListViewCtrl::SetItemData(HTREEITEM item, unsigned long data)

@@ -86,7 +86,7 @@ public:
     bool GetCanEditColumn(const CPoint& point);
     /// 1 or more: the family of units (see `CKxUnit`) in which the column's values are shown and typed. Under the same gate.
     void SetColumnEditStyle(const int& col, const int& style);
-    /// Not owned; null for none. It must outlive the control, or be taken away before.
+    /// Not owned; null for none. Once it ends, the control is without one.
     void SetUnitManager(CKxUnitManager* manager);
     /// Keeps the negation of `draw`. Nothing in this library reads it.
     void SetHeaderCustomDraw(const bool& draw);
@@ -216,14 +216,16 @@ protected:
     int m_columnCount = 0;
     int m_columnsWidth = 0;
     int m_itemCount = 0;
-    treelist::ColumnTables m_columns; ///< open while labels can be modified
-    CKxUnitManager* m_pUnitManager = nullptr;
+    treelist::ColumnTables m_columns;         ///< open while labels can be modified
+    CKxUnitManager* m_pUnitManager = nullptr; ///< read by UnitManager() alone
+    std::weak_ptr<const void> m_unitManagerLife;
     bool m_headerCustomDraw = false;
 
 private:
     void PaintRows(CDC& dc, const treelist::Columns& columns, const CRect& clip);
     void PaintCells(CDC& dc, const CKxTreeListRow& row, const std::vector<treelist::CellPlace>& places);
     CWnd* ParentOfFrame() const;
+    CKxUnitManager* UnitManager() const { return m_unitManagerLife.expired() ? nullptr : m_pUnitManager; }
     bool IsColumnOfUnits(int column) const;
     bool WriteEditedCell(const CString& trimmed);
     void CreateEditor(HTREEITEM item, int column, CRect& rect);

@@ -139,3 +139,20 @@ TEST(UnitManager, copies_are_independent)
 }
 
 } // namespace
+
+TEST(UnitManager, whoever_keeps_a_pointer_can_tell_when_it_ended)
+{
+    std::weak_ptr<const void> life;
+    {
+        CKxUnitManager manager;
+        life = manager.GetLife();
+        EXPECT_FALSE(life.expired());
+        {
+            CKxUnitManager copy(manager);
+            manager = copy;
+            EXPECT_FALSE(life.expired()) << "assigned to, it lives on";
+        }
+        EXPECT_FALSE(life.expired()) << "a copy has a life of its own";
+    }
+    EXPECT_TRUE(life.expired());
+}

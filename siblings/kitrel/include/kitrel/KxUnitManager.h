@@ -3,6 +3,8 @@
 
 #include <afx.h>
 
+#include <memory>
+
 #include "kitrel/Export.h"
 #include "kitrel/KxUnit.h"
 
@@ -45,13 +47,26 @@ public:
     /// A number outside 1 to 6 is not taken.
     void SetUnitType(int unitType);
 
+    /// Expires when this object ends. For a control that keeps a pointer to a manager which it does not own.
+    std::weak_ptr<const void> GetLife() const { return m_life.token; }
+
     /// Directory of the style files, with its closing separator.
     CString m_strStyleDirectory;
     /// Extension of the style files: a dot and three letters.
     CString m_strStyleExtension;
 
 private:
+    /// One for each object: a copy has its own.
+    struct Life
+    {
+        Life() = default;
+        Life(const Life&) {}
+        Life& operator=(const Life&) { return *this; }
+        std::shared_ptr<const char> token = std::make_shared<const char>('\0');
+    };
+
     CKxUnit m_units[CKxUnit::c_nFamilies];
     CString m_strStyleName;
     int m_unitType;
+    Life m_life;
 };
