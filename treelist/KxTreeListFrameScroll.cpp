@@ -43,9 +43,11 @@ int upperEnd(HWND window, int bar)
 }
 } // namespace
 
+// A tree that hides its bar may leave the range as it was.
 BOOL CKxTreeListFrame::VerticalScrollVisible()
 {
-    return upperEnd(m_tree.m_hWnd, SB_VERT) != 0;
+    const bool shown = m_tree.m_hWnd != nullptr && (m_tree.GetStyle() & WS_VSCROLL) != 0;
+    return shown && upperEnd(m_tree.m_hWnd, SB_VERT) != 0;
 }
 
 BOOL CKxTreeListFrame::HorizontalScrollVisible()
