@@ -3,6 +3,7 @@
 
 #include <limits>
 #include <utility>
+#include <vector>
 
 #include "GlobalBlock.h"
 #include "PictureData.h"
@@ -43,37 +44,64 @@ ComOwner<IPicture> decode(OwnedBlock block, LONG claimed)
     return ComOwner<IPicture>(static_cast<IPicture*>(picture));
 }
 
+/// `claimed` is the length that the platform is told; 0 means all of the stream.
 ComOwner<IPicture> decode(const void* data, size_t count, LONG claimed)
 {
-    return PictureData::isWhole(static_cast<const unsigned char*>(data), count)
-               ? decode(movableCopy(data, count), claimed)
-               : nullptr;
+    const auto* const bytes = static_cast<const unsigned char*>(data);
+    if (!PictureData::isWhole(bytes, count))
+    {
+        return nullptr;
+    }
+    if (PictureData::lacksColorTable(bytes, count))
+    {
+        const std::vector<unsigned char> filled = PictureData::withColorTable(bytes, count);
+        return decode(movableCopy(filled.data(), filled.size()), 0);
+    }
+    return decode(movableCopy(data, count), claimed);
 }
 
-/// Whether a file may be given to the decoder. What is no local file is left to the platform.
-bool fileIsWhole(const CString& path)
+/// A file's bytes, readable until the end of the object.
+class MappedFile
 {
-    const KernelHandle file = openFile(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING);
-    LARGE_INTEGER size = {};
-    if (file == nullptr || !::GetFileSizeEx(file.get(), &size))
+public:
+    explicit MappedFile(const CString& path)
+        : m_file(openFile(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING))
     {
-        return true;
+        LARGE_INTEGER size = {};
+        if (m_file == nullptr || !::GetFileSizeEx(m_file.get(), &size))
+        {
+            return;
+        }
+        m_exists = true;
+        const KernelHandle mapping(::CreateFileMappingW(m_file.get(), nullptr, PAGE_READONLY, 0, 0, nullptr));
+        if (mapping != nullptr) // an empty file has none
+        {
+            m_bytes = ::MapViewOfFile(mapping.get(), FILE_MAP_READ, 0, 0, 0);
+            m_size = static_cast<size_t>(size.QuadPart);
+        }
     }
-    const KernelHandle mapping(::CreateFileMappingW(file.get(), nullptr, PAGE_READONLY, 0, 0, nullptr));
-    if (mapping == nullptr)
+    MappedFile(const MappedFile&) = delete;
+    MappedFile& operator=(const MappedFile&) = delete;
+    ~MappedFile()
     {
-        return false; // an empty file has none
+        if (m_bytes != nullptr)
+        {
+            ::UnmapViewOfFile(m_bytes);
+        }
     }
-    const void* const view = ::MapViewOfFile(mapping.get(), FILE_MAP_READ, 0, 0, 0);
-    if (view == nullptr)
-    {
-        return false;
-    }
-    const bool whole =
-        PictureData::isWhole(static_cast<const unsigned char*>(view), static_cast<size_t>(size.QuadPart));
-    ::UnmapViewOfFile(view);
-    return whole;
-}
+
+    /// False for what is no local file.
+    bool exists() const { return m_exists; }
+    /// Null when there is nothing to read.
+    const unsigned char* bytes() const { return static_cast<const unsigned char*>(m_bytes); }
+    size_t size() const { return m_size; }
+
+private:
+    KernelHandle m_file;
+    bool m_exists = false;
+    void* m_bytes = nullptr;
+    size_t m_size = 0;
+};
 
 bool writeFile(const CString& path, const void* data, DWORD count)
 {
@@ -135,22 +163,22 @@ DecodedPicture DecodedPicture::fromMemory(const void* data, size_t count)
     return DecodedPicture(decode(data, count, static_cast<LONG>(count)));
 }
 
-DecodedPicture DecodedPicture::fromGif(HGLOBAL block, size_t count)
-{
-    OwnedBlock owned(block);
-    if (count > static_cast<size_t>(std::numeric_limits<LONG>::max()))
-    {
-        return DecodedPicture();
-    }
-    return DecodedPicture(decode(std::move(owned), static_cast<LONG>(count)));
-}
-
 DecodedPicture DecodedPicture::fromPath(const CString& path)
 {
+    {
+        const MappedFile file(path);
+        if (file.exists() && (file.bytes() == nullptr || !PictureData::isWhole(file.bytes(), file.size())))
+        {
+            return DecodedPicture();
+        }
+        if (PictureData::lacksColorTable(file.bytes(), file.size()))
+        {
+            return DecodedPicture(decode(file.bytes(), file.size(), 0));
+        }
+    }
     const SystemText text = systemText(path);
     void* picture = nullptr;
-    if (text == nullptr || !fileIsWhole(path) ||
-        FAILED(::OleLoadPicturePath(text.get(), nullptr, 0, 0, IID_IPicture, &picture)))
+    if (text == nullptr || FAILED(::OleLoadPicturePath(text.get(), nullptr, 0, 0, IID_IPicture, &picture)))
     {
         return DecodedPicture();
     }

@@ -24,8 +24,6 @@ public:
     static DecodedPicture fromResource(unsigned int id, const CString& type);
     /// `count` bytes that are copied.
     static DecodedPicture fromMemory(const void* data, size_t count);
-    /// The `count` bytes of a GIF stream in a block, which it takes.
-    static DecodedPicture fromGif(HGLOBAL block, size_t count);
     /// A path or URL.
     static DecodedPicture fromPath(const CString& path);
 

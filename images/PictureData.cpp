@@ -2,6 +2,7 @@
 #include "PictureData.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <iterator>
 
@@ -19,6 +20,8 @@ public:
     uint32_t longAt(size_t at) const { return wordAt(at) | wordAt(at + 2) << 16; }
     bool holds(size_t from, size_t count) const { return from <= m_size && count <= m_size - from; }
     Bytes part(size_t from, size_t count) const { return {m_data + from, count}; }
+    const unsigned char* begin() const { return m_data; }
+    const unsigned char* end() const { return m_data + m_size; }
 
 private:
     const unsigned char* m_data;
@@ -32,6 +35,11 @@ constexpr size_t fileHeaderSize = 14;
 constexpr uint32_t coreHeaderSize = 12;
 constexpr uint32_t infoHeaderSize = 40;
 constexpr uint32_t greatestHeaderSize = 124;
+constexpr size_t gifScreenSize = 13;
+constexpr size_t gifFlagsAt = 10;
+constexpr unsigned char gifTableFlag = 0x80;
+constexpr unsigned char gifGreatestTable = 7; // 256 entries
+constexpr size_t gifGreatestTableSize = 768;
 constexpr size_t iconHeaderSize = 6;
 constexpr size_t iconEntrySize = 16;
 
@@ -175,4 +183,24 @@ bool PictureData::isWhole(const unsigned char* data, size_t size)
     default:
         return true;
     }
+}
+
+bool PictureData::lacksColorTable(const unsigned char* data, size_t size)
+{
+    const Bytes file = behindPreambles(Bytes(data, data == nullptr ? 0 : size));
+    return file.size() >= gifScreenSize && std::equal(file.begin(), file.begin() + 3, "GIF") &&
+           (file.byteAt(gifFlagsAt) & gifTableFlag) == 0;
+}
+
+std::vector<unsigned char> PictureData::withColorTable(const unsigned char* data, size_t size)
+{
+    constexpr std::array<unsigned char, gifGreatestTableSize> table = {0, 0, 0, 255, 255, 255};
+    const Bytes file = behindPreambles(Bytes(data, size));
+    std::vector<unsigned char> result;
+    result.reserve(file.size() + table.size());
+    std::copy_n(file.begin(), gifScreenSize, std::back_inserter(result));
+    result[gifFlagsAt] = static_cast<unsigned char>(result[gifFlagsAt] | gifTableFlag | gifGreatestTable);
+    std::copy(table.begin(), table.end(), std::back_inserter(result));
+    std::copy(file.begin() + gifScreenSize, file.end(), std::back_inserter(result));
+    return result;
 }

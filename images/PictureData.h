@@ -1,7 +1,8 @@
-// Judges whether what the headers of a picture file point at lies within its bytes.
+// Judges whether what the headers of a picture file point at lies within its bytes, and fills in what a decoder needs.
 #pragma once
 
 #include <cstddef>
+#include <vector>
 
 #include "oxa/Export.h"
 
@@ -11,4 +12,10 @@ struct OXA_API PictureData
     /// False when a bitmap, icon or cursor file claims palette entries, pixels or images beyond its end, or none at all.
     /// True for every other format, and for nothing.
     static bool isWhole(const unsigned char* data, size_t size);
+
+    /// Whether the file is a GIF without a global colour table. Not every decoder stands one whose image has no table
+    /// either.
+    static bool lacksColorTable(const unsigned char* data, size_t size);
+    /// Such a file with a global table of 256 entries: black, white, and black for all others.
+    static std::vector<unsigned char> withColorTable(const unsigned char* data, size_t size);
 };

@@ -10,6 +10,7 @@
 #include "ClientContext.h"
 #include "GlobalBlock.h"
 #include "PictureStage.h"
+#include "PlayRules.h"
 
 namespace
 {
@@ -157,11 +158,18 @@ void CPictureEx::LoadFrames()
     UINT disposal = 0;
     SIZE size = {};
     SIZE offset = {};
-    while (const HGLOBAL block = GetNextGraphicBlock(&length, &delay, &size, &offset, &disposal))
+    std::int64_t pixelsLeft = PlayRules::MostFramePixels;
+    while (const OwnedBlock block{GetNextGraphicBlock(&length, &delay, &size, &offset, &disposal)})
     {
-        DecodedPicture picture = DecodedPicture::fromGif(block, length);
+        const std::int64_t pixels = PlayRules::PixelsOf(size.cx, size.cy);
+        if (pixels > pixelsLeft || !PlayRules::IsCanvas(size.cx, size.cy))
+        {
+            continue;
+        }
+        DecodedPicture picture = DecodedPicture::fromMemory(block.get(), length);
         if (picture.exists())
         {
+            pixelsLeft -= pixels;
             m_stage->m_Frames.push_back({std::move(picture), size.cx, size.cy, offset.cx, offset.cy, delay, disposal});
         }
     }

@@ -20,6 +20,10 @@ PictureStage::PictureStage() : m_hStopEvent(::CreateEventW(nullptr, TRUE, FALSE,
 
 bool PictureStage::Prepare(HDC like, int cx, int cy)
 {
+    if (!PlayRules::IsCanvas(cx, cy))
+    {
+        return false;
+    }
     auto canvas = std::make_unique<OffScreen>(like, cx, cy);
     if (!canvas->ready())
     {

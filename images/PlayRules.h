@@ -9,6 +9,19 @@
 
 struct PlayRules
 {
+    /// A small stream can claim any size: beyond these the platform is not asked for the memory.
+    enum Limit : std::int64_t
+    {
+        MostPixels = std::int64_t{16384} * 16384, // of the canvas, and of a frame
+        MostFramePixels = std::int64_t{1} << 30,  // of all frames of an animation
+    };
+
+    static constexpr std::int64_t PixelsOf(int width, int height) { return std::int64_t{width} * height; }
+    static constexpr bool IsCanvas(int width, int height)
+    {
+        return width >= 0 && height >= 0 && PixelsOf(width, height) <= MostPixels;
+    }
+
     /// What is done with a frame when its time is over; everything else leaves it where it is.
     enum Disposal : std::uint32_t
     {

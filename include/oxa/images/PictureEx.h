@@ -34,6 +34,9 @@ public:
     /// @param size bytes of the stream; no more than the block has are read
     /// @return FALSE when the block cannot be locked, the loader refuses the picture, a GIF has no frame, or there is no
     ///         memory for the canvas. Frames of an animation that the loader refuses are left out.
+    ///
+    /// A canvas or a frame of more than 16,384 by 16,384 pixels is refused, and so are frames of an animation beyond 2^30
+    /// pixels in all: a few bytes can claim any size.
     BOOL Load(HGLOBAL hGlobal, DWORD size);
     /// The same from a file, opened for reading while others may not write. When it cannot be read, the old picture stays.
     BOOL Load(LPCTSTR fileName);

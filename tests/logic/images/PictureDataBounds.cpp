@@ -169,3 +169,43 @@ TEST(PictureData, a_bitmap_behind_its_mark_and_length_is_judged_within_that_leng
     EXPECT_TRUE(isWhole(behindPreamble(0, bitmap)));
     EXPECT_TRUE(isWhole({'l', 't', 0, 0, 1, 0, 0}));
 }
+
+FileBytes gifWithFlags(int flags, size_t size = 15)
+{
+    FileBytes file = {'G', 'I', 'F', '8', '9', 'a', 5, 0, 4, 0, static_cast<unsigned char>(flags), 1, 2, ',', ';'};
+    file.resize(size);
+    return file;
+}
+
+bool lacksTable(const FileBytes& bytes)
+{
+    return PictureData::lacksColorTable(bytes.data(), bytes.size());
+}
+
+TEST(PictureDataTable, a_gif_lacks_its_table_when_the_flag_is_not_set)
+{
+    EXPECT_TRUE(lacksTable(gifWithFlags(0)));
+    EXPECT_TRUE(lacksTable(gifWithFlags(0x7F)));
+    EXPECT_TRUE(lacksTable(gifWithFlags(0, 13)));
+    EXPECT_FALSE(lacksTable(gifWithFlags(0x80)));
+    EXPECT_FALSE(lacksTable(gifWithFlags(0xF7)));
+    EXPECT_FALSE(lacksTable(gifWithFlags(0, 12))); // too short to be decoded
+    EXPECT_FALSE(lacksTable({}));
+    EXPECT_FALSE(PictureData::lacksColorTable(nullptr, 100));
+    FileBytes other = gifWithFlags(0);
+    other[0] = 'g';
+    EXPECT_FALSE(lacksTable(other));
+}
+
+TEST(PictureDataTable, the_table_is_put_behind_the_screen)
+{
+    FileBytes expected = {'G', 'I', 'F', '8', '9', 'a', 5, 0, 4, 0, 0xB7, 1, 2, 0, 0, 0, 255, 255, 255};
+    expected.resize(13 + 768);
+    expected.insert(expected.end(), {',', ';'});
+    const FileBytes bare = gifWithFlags(0x30);
+    EXPECT_EQ(PictureData::withColorTable(bare.data(), bare.size()), expected);
+    FileBytes saved = {'l', 't', 0, 0, 15, 0, 0, 0};
+    saved.insert(saved.end(), bare.begin(), bare.end());
+    EXPECT_TRUE(lacksTable(saved));
+    EXPECT_EQ(PictureData::withColorTable(saved.data(), saved.size()), expected);
+}

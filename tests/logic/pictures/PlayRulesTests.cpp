@@ -27,6 +27,26 @@ TEST(PlayRules, a_frame_without_a_control_block_stands_for_49_days)
     EXPECT_EQ(PlayRules::WaitOf(0xFFFFFFFF), 0xFFFFFFF6U);
 }
 
+TEST(PlayRules, pixels_are_counted_without_overflow)
+{
+    EXPECT_EQ(PlayRules::PixelsOf(16384, 16384), PlayRules::MostPixels);
+    EXPECT_EQ(PlayRules::PixelsOf(65535, 65535), 4294836225);
+    EXPECT_EQ(PlayRules::PixelsOf(leastPlace, leastPlace), std::int64_t{1} << 62);
+    EXPECT_EQ(PlayRules::PixelsOf(0, farthest), 0);
+}
+
+TEST(PlayRules, a_canvas_has_a_size_and_not_too_many_pixels)
+{
+    EXPECT_TRUE(PlayRules::IsCanvas(0, 0));
+    EXPECT_TRUE(PlayRules::IsCanvas(16384, 16384));
+    EXPECT_TRUE(PlayRules::IsCanvas(65535, 1));
+    EXPECT_FALSE(PlayRules::IsCanvas(16384, 16385));
+    EXPECT_FALSE(PlayRules::IsCanvas(-1, 1));
+    EXPECT_FALSE(PlayRules::IsCanvas(1, -1));
+    EXPECT_FALSE(PlayRules::IsCanvas(-1, -1));
+    EXPECT_FALSE(PlayRules::IsCanvas(farthest, farthest));
+}
+
 struct PartCase
 {
     const char* what;

@@ -125,6 +125,27 @@ TEST(HostilePicture, offsets_far_outside_are_refused)
     EXPECT_EQ(load(icon), 0);
 }
 
+// The platform's decoder has ended the program over such an image.
+TEST(HostilePicture, a_gif_without_any_colour_table_begins_with_black_and_white)
+{
+    const Canvas canvas;
+    PictureBytes bytes = resourceBytes(IDP_HALF);
+    const int tableSize = 3 << ((bytes[10] & 7) + 1);
+    bytes[10] = 0;
+    bytes.erase(bytes.begin() + 13, bytes.begin() + 13 + tableSize);
+    PictureBytes behindMark = {'l', 't', 0, 0, static_cast<unsigned char>(bytes.size()), 0, 0, 0};
+    behindMark.insert(behindMark.end(), bytes.begin(), bytes.end());
+    for (const PictureBytes& each : {bytes, behindMark})
+    {
+        EXPECT_EQ(load(each), 1);
+        const TemporaryFile file(L"tableless.gif", &each);
+        CBitmap bitmap;
+        EXPECT_EQ(CKxPictureEx::LoadBitmapPath(file.path, canvas.GetSafeHdc(), 4, 4, bitmap, yellow), 1);
+        EXPECT_EQ(pixelOf(bitmap, 0, 0), RGB(0, 0, 0));
+        EXPECT_EQ(pixelOf(bitmap, 3, 0), yellow); // transparent
+    }
+}
+
 TEST(HostilePicture, an_empty_file_is_refused)
 {
     const PictureBytes nothing;
