@@ -54,7 +54,7 @@ GifCodeWriter::~GifCodeWriter()
     m_state.codeWidth = m_codeWidth;
     m_state.highestCode = static_cast<std::int16_t>(m_highestCode);
     m_state.nextFreeCode = static_cast<std::int16_t>(m_nextFreeCode);
-    m_state.clearFlag = m_clearFlag ? 1 : 0;
+    m_state.clearFlag = 0; // the code behind a reset has dropped it
 }
 
 void GifCodeWriter::AdaptWidth()

@@ -130,6 +130,112 @@ TEST(FailingMemory, reduction_works_in_full_or_not_at_all)
     }
 }
 
+TEST(FailingMemory, reduction_does_without_the_lists_that_it_cannot_remember)
+{
+    // One colour in each of 32 by 32 by 32 cells: more lists than there is room for at first.
+    CKxGifImage source(1024, 32, 24);
+    for (long y = 0; y < 32; ++y)
+        for (long x = 0; x < 1024; ++x)
+            source.SetPixelColor(
+                x, y, quad(static_cast<int>(x % 32 * 8 + 3), static_cast<int>(x / 32 * 8), static_cast<int>(y * 8)));
+    CKxGifImage expected;
+    expected = source;
+    ASSERT_TRUE(expected.DecreaseBpp(8, false, nullptr, 0));
+    int done = 0;
+    for (long granted = 0; granted < 12; ++granted)
+    {
+        CKxGifImage image;
+        image = source;
+        requestsLeft = granted;
+        done += image.DecreaseBpp(8, false, nullptr, 0) ? 1 : 0;
+        requestsLeft = -1;
+        EXPECT_TRUE(samePixels(image, image.GetBpp() == 8 ? expected : source)) << granted;
+    }
+    EXPECT_GT(done, 1);
+}
+
+TEST(FailingMemory, a_mosaic_is_written_in_full_or_refused)
+{
+    CKxGifImage image = colors();
+    CByteArray expected;
+    ASSERT_TRUE(image.Encode(expected));
+    int refused = 0;
+    for (long granted = 0; granted < 10; ++granted)
+    {
+        CKxMemFile file;
+        ASSERT_TRUE(file.Open());
+        requestsLeft = granted;
+        const bool done = image.Encode(&file);
+        requestsLeft = -1;
+        refused += !done;
+        if (done)
+        {
+            ASSERT_EQ(file.Size(), expected.GetSize());
+            EXPECT_EQ(std::memcmp(file.GetBuffer(false), expected.GetData(), static_cast<std::size_t>(file.Size())), 0);
+        }
+    }
+    EXPECT_GT(refused, 0);
+    EXPECT_LT(refused, 10);
+}
+
+TEST(FailingMemory, nothing_is_written_to_a_target_that_does_not_open)
+{
+    CKxGifImage image(3, 3, 8);
+    CByteArray data;
+    data.SetSize(7);
+    unsigned char* buffer = nullptr;
+    long size = 5;
+    requestsLeft = 0;
+    const bool toArray = image.Encode(data);
+    const bool toPointer = image.Encode(buffer, size);
+    requestsLeft = -1;
+    EXPECT_FALSE(toArray);
+    EXPECT_EQ(data.GetSize(), 0);
+    EXPECT_FALSE(toPointer);
+    EXPECT_EQ(buffer, nullptr);
+    EXPECT_EQ(size, 5);
+}
+
+TEST(FailingMemory, a_stream_that_cannot_grow_refuses_the_write)
+{
+    unsigned char lent[3] = {1, 2, 3};
+    CKxMemFile file(lent, 3);
+    requestsLeft = 0; // a caller's buffer is left for one of the stream's own
+    const std::size_t written = file.Write("abcdef", 1, 6);
+    requestsLeft = -1;
+    EXPECT_EQ(written, 0U);
+    EXPECT_EQ(file.Tell(), 0);
+    EXPECT_EQ(file.Size(), 3);
+    EXPECT_EQ(lent[0], 1);
+    EXPECT_EQ(file.Write("xy", 1, 2), 2U); // what fits is taken as before
+    EXPECT_EQ(lent[1], 'y');
+}
+
+TEST(FailingMemory, a_caller_s_block_that_cannot_be_lent_stays_the_caller_s)
+{
+    unsigned char lent[3] = {1, 2, 3};
+    requestsLeft = 0;
+    CKxMemFile file(lent, 3);
+    requestsLeft = -1;
+    EXPECT_EQ(file.GetBuffer(false), nullptr);
+    EXPECT_EQ(lent[2], 3);
+}
+
+TEST(FailingMemory, a_copy_goes_without_the_planes_that_cannot_be_had)
+{
+    ExposedImage source;
+    source.Create(4, 4, 8);
+    source.m_pSelection = SharedBytes::Allocate(16);
+    source.m_pAlpha = SharedBytes::Allocate(16);
+    ExposedImage copy;
+    requestsLeft = 1; // for the pixels
+    copy.Copy(source, true, true, true);
+    requestsLeft = -1;
+    EXPECT_TRUE(samePixels(copy, source));
+    EXPECT_EQ(copy.m_pSelection.Get(), nullptr);
+    EXPECT_EQ(copy.m_pAlpha.Get(), nullptr);
+}
+
 TEST(FailingMemory, a_stream_does_not_open_without_memory)
 {
     CKxMemFile file;

@@ -207,8 +207,11 @@ TEST(ImagePalette, is_grey_scale_only_with_grey_i_at_every_i)
     EXPECT_TRUE(image.IsGrayScale());
     image.SetPaletteColor(7, quad(7, 7, 7, 99)); // the reserved byte does not matter
     EXPECT_TRUE(image.IsGrayScale());
-    image.SetPaletteColor(255, 255, 255, 254);
-    EXPECT_FALSE(image.IsGrayScale());
+    for (const RGBQUAD& almost : {quad(255, 255, 254), quad(255, 254, 255), quad(254, 255, 255)})
+    {
+        image.SetPaletteColor(255, almost);
+        EXPECT_FALSE(image.IsGrayScale());
+    }
     for (const unsigned long bpp : {1UL, 4UL})
     {
         CKxGifImage other(1, 1, bpp);

@@ -51,6 +51,18 @@ TEST(MemFileSharing, a_detached_buffer_may_be_given_back)
     EXPECT_EQ(file.Size(), -1);
 }
 
+TEST(MemFileSharing, a_buffer_may_be_detached_twice)
+{
+    unsigned char* buffer = nullptr;
+    {
+        CKxMemFile file = written("abc");
+        buffer = file.GetBuffer(true);
+        EXPECT_EQ(file.GetBuffer(true), buffer);
+    }
+    EXPECT_EQ(std::memcmp(buffer, "abc", 3), 0);
+    CKxGifImage().FreeMemory(buffer);
+}
+
 TEST(MemFileSharing, growing_after_detaching_leaves_the_detached_buffer_alone)
 {
     CKxMemFile file = written("abc");
