@@ -149,6 +149,18 @@ TEST(RoundTrip, delay_disposal_and_comment_come_back)
     EXPECT_EQ(std::string(comment), std::string(255, 'c'));
 }
 
+TEST(RoundTrip, an_image_may_begin_as_what_was_written)
+{
+    CKxGifImage image;
+    plain::drawRandom(image, 9, 7, 4, {16, 2}, 6);
+    CByteArray data;
+    ASSERT_TRUE(image.Encode(data));
+    CKxGifImage read(data);
+    EXPECT_TRUE(plain::pictureOf(read).indexes == plain::pictureOf(image).indexes);
+    data.SetSize(20);
+    EXPECT_FALSE(CKxGifImage(data).IsValid());
+}
+
 TEST(RoundTrip, a_reduced_picture_comes_back)
 {
     for (const unsigned long bits : {8UL, 4UL, 1UL})

@@ -178,6 +178,21 @@ TEST(FailingMemory, a_mosaic_is_written_in_full_or_refused)
     EXPECT_LT(refused, 10);
 }
 
+TEST(FailingMemory, a_raster_is_compressed_in_the_memory_that_is_there)
+{
+    CKxGifImage image(300, 200, 8);
+    for (long y = 0; y < 200; ++y)
+        for (long x = 0; x < 300; ++x)
+            image.SetPixelIndex(x, y, static_cast<unsigned char>(x * y % 251));
+    CKxMemFile file;
+    ASSERT_TRUE(file.Open());
+    requestsLeft = 0; // a stream's own growth takes the block that it has
+    const bool done = image.Encode(&file);
+    requestsLeft = -1;
+    EXPECT_TRUE(done);
+    EXPECT_GT(file.Size(), 20000);
+}
+
 TEST(FailingMemory, nothing_is_written_to_a_target_that_does_not_open)
 {
     CKxGifImage image(3, 3, 8);
