@@ -159,4 +159,47 @@ inline Picture lineArt(const char* name, int depth)
     }
     return picture;
 }
+
+/// A scene with slopes in the ground and boxes that move over it.
+inline std::vector<Picture> animation()
+{
+    std::vector<Picture> frames;
+    for (int i = 0; i < 30; ++i)
+    {
+        Picture picture = blank("animation", 320, 240, 8, 0);
+        Brush brush(picture);
+        Random random;
+        for (int y = 0; y < picture.height; ++y)
+            for (int x = 0; x < picture.width; ++x)
+                brush.dot(x, y, static_cast<unsigned>(40 + y / 6 + x / 40));
+        for (int box = 0; box < 8; ++box)
+            brush.box(box * 37 + i * 4, 20 + box * 24 + (box % 2 == 0 ? i : -i), 30, 18,
+                      static_cast<unsigned>(120 + box * 15));
+        for (int row = 0; row < 6; ++row)
+            brush.text(10 + i, 30 + row * 36, 40, 250, random);
+        frames.push_back(picture);
+    }
+    return frames;
+}
+
+/// Twelve dots on a circle that fade one after the other.
+inline std::vector<Picture> spinner()
+{
+    static constexpr int xs[] = {24, 33, 40, 42, 40, 33, 24, 15, 8, 6, 8, 15};
+    static constexpr int ys[] = {6, 8, 15, 24, 33, 40, 42, 40, 33, 24, 15, 8};
+    std::vector<Picture> frames;
+    for (int i = 0; i < 12; ++i)
+    {
+        Picture picture = blank("spinner", 48, 48, 4, 0);
+        Brush brush(picture);
+        for (int dot = 0; dot < 12; ++dot)
+        {
+            const auto shade = static_cast<unsigned>(1 + (dot + i) % 12);
+            brush.box(xs[dot] - 2, ys[dot] - 3, 4, 6, shade);
+            brush.box(xs[dot] - 3, ys[dot] - 2, 6, 4, shade);
+        }
+        frames.push_back(picture);
+    }
+    return frames;
+}
 } // namespace bench

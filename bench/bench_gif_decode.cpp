@@ -141,49 +141,6 @@ void compare(const char* name, Bytes bytes, long frame, double floor, double goa
     std::printf("%-18s %9zu %9.4f %9.4f %8.2f %8.2f %7.1f %6.0f\n", name, bytes.size(), ours, theirs, theirs / ours,
                 ratios[rounds / 2], floor, goal);
 }
-
-/// A scene with slopes in the ground and boxes that move over it.
-std::vector<bench::Picture> animation()
-{
-    std::vector<bench::Picture> frames;
-    for (int i = 0; i < 30; ++i)
-    {
-        bench::Picture picture = bench::blank("animation", 320, 240, 8, 0);
-        bench::Brush brush(picture);
-        bench::Random random;
-        for (int y = 0; y < picture.height; ++y)
-            for (int x = 0; x < picture.width; ++x)
-                brush.dot(x, y, static_cast<unsigned>(40 + y / 6 + x / 40));
-        for (int box = 0; box < 8; ++box)
-            brush.box(box * 37 + i * 4, 20 + box * 24 + (box % 2 == 0 ? i : -i), 30, 18,
-                      static_cast<unsigned>(120 + box * 15));
-        for (int row = 0; row < 6; ++row)
-            brush.text(10 + i, 30 + row * 36, 40, 250, random);
-        frames.push_back(picture);
-    }
-    return frames;
-}
-
-/// Twelve dots on a circle that fade one after the other.
-std::vector<bench::Picture> spinner()
-{
-    static constexpr int xs[] = {24, 33, 40, 42, 40, 33, 24, 15, 8, 6, 8, 15};
-    static constexpr int ys[] = {6, 8, 15, 24, 33, 40, 42, 40, 33, 24, 15, 8};
-    std::vector<bench::Picture> frames;
-    for (int i = 0; i < 12; ++i)
-    {
-        bench::Picture picture = bench::blank("spinner", 48, 48, 4, 0);
-        bench::Brush brush(picture);
-        for (int dot = 0; dot < 12; ++dot)
-        {
-            const auto shade = static_cast<unsigned>(1 + (dot + i) % 12);
-            brush.box(xs[dot] - 2, ys[dot] - 3, 4, 6, shade);
-            brush.box(xs[dot] - 3, ys[dot] - 2, 6, 4, shade);
-        }
-        frames.push_back(picture);
-    }
-    return frames;
-}
 } // namespace
 
 // bench_gif_decode [PICTURE]
@@ -198,7 +155,7 @@ int main(int count, char** arguments)
     compare("noise", streamOf({bench::noise()}, Order::Straight), 0, 2.4, 5);
     compare("line art 4 bits", streamOf({bench::lineArt("line art 4 bits", 4)}, Order::Straight), 0, 6, 10);
     compare("line art 1 bit", streamOf({bench::lineArt("line art 1 bit", 1)}, Order::Straight), 0, 8, 14);
-    compare("animation, last", streamOf(animation(), Order::Straight), 29, 4, 8);
-    compare("spinner, last", streamOf(spinner(), Order::Straight, 2, 0), 11, 4.5, 9);
+    compare("animation, last", streamOf(bench::animation(), Order::Straight), 29, 4, 8);
+    compare("spinner, last", streamOf(bench::spinner(), Order::Straight, 2, 0), 11, 4.5, 9);
     return 0;
 }
