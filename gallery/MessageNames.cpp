@@ -39,10 +39,17 @@ constexpr std::array listCodes = {
 };
 
 constexpr std::array notifyCodes = {
-    Name{static_cast<UINT>(NM_CLICK), L"NM_CLICK"},          Name{static_cast<UINT>(NM_DBLCLK), L"NM_DBLCLK"},
-    Name{static_cast<UINT>(NM_SETFOCUS), L"NM_SETFOCUS"},    Name{static_cast<UINT>(NM_KILLFOCUS), L"NM_KILLFOCUS"},
-    Name{static_cast<UINT>(TTN_SHOW), L"TTN_SHOW"},          Name{static_cast<UINT>(TTN_POP), L"TTN_POP"},
+    Name{static_cast<UINT>(NM_CLICK), L"NM_CLICK"},
+    Name{static_cast<UINT>(NM_DBLCLK), L"NM_DBLCLK"},
+    Name{static_cast<UINT>(NM_SETFOCUS), L"NM_SETFOCUS"},
+    Name{static_cast<UINT>(NM_KILLFOCUS), L"NM_KILLFOCUS"},
+    Name{static_cast<UINT>(TTN_SHOW), L"TTN_SHOW"},
+    Name{static_cast<UINT>(TTN_POP), L"TTN_POP"},
     Name{static_cast<UINT>(TTN_NEEDTEXTW), L"TTN_NEEDTEXT"},
+    Name{static_cast<UINT>(LVN_ITEMCHANGING), L"LVN_ITEMCHANGING"},
+    Name{static_cast<UINT>(LVN_ITEMCHANGED), L"LVN_ITEMCHANGED"},
+    Name{static_cast<UINT>(LVN_DELETEALLITEMS), L"LVN_DELETEALLITEMS"},
+    Name{static_cast<UINT>(LVN_KEYDOWN), L"LVN_KEYDOWN"},
 };
 
 template <class Table> CString find(const Table& table, UINT number, const wchar_t* kind)
@@ -69,14 +76,20 @@ CString nameOfCommand(UINT code, HWND control)
         return find(listCodes, code, L"LBN");
     return find(std::array<Name, 0>{}, code, L"WM_COMMAND");
 }
+
+/// What controls ask whenever they paint is no news.
+bool isPainting(UINT code)
+{
+    return code == static_cast<UINT>(NM_CUSTOMDRAW) || code == static_cast<UINT>(LVN_GETDISPINFOW);
+}
 } // namespace
 
 bool isControlMessage(UINT message, LPARAM lParam)
 {
     if (message == WM_COMMAND)
         return lParam != 0;
-    if (message == WM_NOTIFY) // painting by themes is no news
-        return lParam != 0 && reinterpret_cast<const NMHDR*>(lParam)->code != static_cast<UINT>(NM_CUSTOMDRAW);
+    if (message == WM_NOTIFY)
+        return lParam != 0 && !isPainting(reinterpret_cast<const NMHDR*>(lParam)->code);
     return message == WM_HSCROLL || message == WM_VSCROLL ||
            (message >= WM_USER && message < 0xC000 && message != WM_USER &&
             message != WM_USER + 1); // not the dialog's own

@@ -1,5 +1,6 @@
 // The list of pages.
 #include "PageFormats.h"
+#include "PagePictures.h"
 #include "PageTips.h"
 #include "PageUnits.h"
 
@@ -9,5 +10,6 @@ std::vector<std::unique_ptr<CPage>> makePages()
     pages.push_back(std::make_unique<CPageUnits>());
     pages.push_back(std::make_unique<CPageFormats>());
     pages.push_back(std::make_unique<CPageTips>());
+    pages.push_back(std::make_unique<CPagePictures>());
     return pages;
 }

@@ -110,21 +110,29 @@ private:
     HGDIOBJ m_old;
 };
 
-std::vector<HWND> visiblePopups(HWND except)
+struct Popups
 {
+    HWND owner;
     std::vector<HWND> found;
+};
+
+// A window with a caption counts when it is a dialog of the owner's.
+std::vector<HWND> visiblePopups(HWND owner)
+{
+    Popups popups = {owner, {}};
     EnumWindows(
         [](HWND window, LPARAM p) -> BOOL
         {
+            auto& all = *reinterpret_cast<Popups*>(p);
+            const bool captioned = (GetWindowLongPtrW(window, GWL_STYLE) & WS_CAPTION) == WS_CAPTION;
             if (IsWindowVisible(window) && GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId() &&
-                (GetWindowLongPtrW(window, GWL_STYLE) & WS_CAPTION) != WS_CAPTION)
-                reinterpret_cast<std::vector<HWND>*>(p)->push_back(window);
+                window != all.owner && (!captioned || GetWindow(window, GW_OWNER) == all.owner))
+                all.found.push_back(window);
             return TRUE;
         },
-        reinterpret_cast<LPARAM>(&found));
-    std::erase(found, except);
-    std::reverse(found.begin(), found.end()); // the topmost is painted last
-    return found;
+        reinterpret_cast<LPARAM>(&popups));
+    std::reverse(popups.found.begin(), popups.found.end()); // the topmost is painted last
+    return popups.found;
 }
 } // namespace
 

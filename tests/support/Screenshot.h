@@ -8,5 +8,6 @@ bool saveBitmapPng(HBITMAP bitmap, const wchar_t* file);
 /// Saves a visible window, frame included. Drop-down lists, menus and tips are windows of their own.
 bool saveWindowPng(HWND window, const wchar_t* file);
 
-/// The same with the visible popups of this thread (lists, menus, tips) painted where they stand over or below the window.
+/// The same with the visible popups of this thread (lists, menus, tips, dialogs of this window) painted where they stand
+/// over or below the window.
 bool saveWindowWithPopupsPng(HWND window, const wchar_t* file);
