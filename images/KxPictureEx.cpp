@@ -29,6 +29,7 @@ Drawn drawPicture(const DecodedPicture& picture, HDC dc, int w, int h, const COL
         result.bitmap.reset();
         return result;
     }
+    ::SetStretchBltMode(memory.handle(), COLORONCOLOR); // a smaller picture keeps its colours
     const RECT all = {0, 0, w, h};
     if (background != nullptr)
     {
@@ -60,13 +61,13 @@ int loadPlain(const DecodedPicture& picture, HDC dc, int w, int h, HBITMAP& bitm
 
 int loadPlain(const DecodedPicture& picture, HDC dc, int w, int h, CBitmap& bitmap)
 {
-    HBITMAP drawn = nullptr;
-    if (loadPlain(picture, dc, w, h, drawn) == 0)
+    Drawn drawn = drawPicture(picture, dc, w, h, nullptr);
+    if (drawn.bitmap == nullptr)
     {
         return 0;
     }
-    give(OwnedBitmap(drawn), bitmap);
-    return 1;
+    give(drawn.complete ? std::move(drawn.bitmap) : nullptr, bitmap);
+    return drawn.complete;
 }
 
 int loadFilled(const DecodedPicture& picture, HDC dc, int w, int h, CBitmap& bitmap, COLORREF background)

@@ -77,6 +77,31 @@ std::vector<Source> sources(int id, PictureBytes& bytes, const CString& path)
          true},
     };
 }
+
+/// A bitmap file of 24 bits, black.
+PictureBytes bitmapFile(int width, int height)
+{
+    const int stride = (width * 3 + 3) / 4 * 4;
+    PictureBytes file(static_cast<size_t>(54 + stride * height), 0);
+    file[0] = 'B';
+    file[1] = 'M';
+    file[10] = 54;
+    file[14] = 40;
+    file[18] = static_cast<unsigned char>(width);
+    file[22] = static_cast<unsigned char>(height);
+    file[26] = 1;
+    file[28] = 24;
+    return file;
+}
+
+void setFilePixel(PictureBytes& file, int width, int x, int y, COLORREF color)
+{
+    const int stride = (width * 3 + 3) / 4 * 4;
+    unsigned char* pixel = &file[static_cast<size_t>(54 + y * stride + x * 3)];
+    pixel[0] = GetBValue(color);
+    pixel[1] = GetGValue(color);
+    pixel[2] = GetRValue(color);
+}
 } // namespace
 
 TEST(PictureLoad, stretches_every_source_upright_to_the_size_asked_for)
@@ -92,6 +117,29 @@ TEST(PictureLoad, stretches_every_source_upright_to_the_size_asked_for)
              {std::tuple(0, 0, red), std::tuple(9, 4, red), std::tuple(10, 0, blue), std::tuple(19, 4, blue),
               std::tuple(0, 5, white), std::tuple(9, 9, white), std::tuple(10, 5, yellow), std::tuple(19, 9, yellow)})
             EXPECT_EQ(pixelOf(bitmap, x, y), color) << source.name << " at " << x << ", " << y;
+    }
+}
+
+TEST(PictureLoad, a_smaller_picture_has_no_colour_that_the_file_has_not)
+{
+    PictureBytes stripes = bitmapFile(9, 3);
+    for (int y = 0; y < 3; ++y)
+        for (int x = 0; x < 9; ++x)
+            setFilePixel(stripes, 9, x, y, x % 2 == 0 ? red : blue);
+    const TemporaryFile file(L"stripes.bmp", &stripes);
+    const Canvas canvas;
+    for (const int width : {1, 2, 4, 7})
+    {
+        CBitmap fromMemory, fromPath;
+        ASSERT_EQ(1, CKxPictureEx::LoadPicture(stripes.data(), stripes.size(), canvas.GetSafeHdc(), width, 2,
+                                               fromMemory, white));
+        ASSERT_EQ(1, CKxPictureEx::LoadBitmap(file.path, canvas.GetSafeHdc(), width, 2, fromPath));
+        for (int x = 0; x < width; ++x)
+            for (const CBitmap* bitmap : {&fromMemory, &fromPath})
+            {
+                const COLORREF color = pixelOf(*bitmap, x, 1);
+                EXPECT_TRUE(color == red || color == blue) << std::hex << color << " at " << x << " of " << width;
+            }
     }
 }
 
@@ -193,6 +241,14 @@ TEST(PictureLoad, a_picture_that_cannot_be_drawn_leaves_a_filled_bitmap_and_no_p
         CBitmap bitmap;
         EXPECT_EQ(source.load(canvas.GetSafeHdc(), 0, 0, bitmap), 0) << source.name;
         EXPECT_EQ(bitmap.GetSafeHandle() != nullptr, source.fills) << source.name;
+        CBitmap older;
+        older.CreateBitmap(3, 3, 1, 1, nullptr);
+        const bool isObject = std::string(source.name).find("handle") == std::string::npos;
+        if (isObject)
+        {
+            EXPECT_EQ(source.load(canvas.GetSafeHdc(), 0, 0, older), 0) << source.name;
+            EXPECT_NE(sizeOf(older), CSize(3, 3)) << source.name; // it made room for the one that failed
+        }
     }
     HBITMAP handle = reinterpret_cast<HBITMAP>(static_cast<INT_PTR>(-1));
     EXPECT_EQ(CKxPictureEx::LoadBitmap(IDP_QUARTERS, canvas.GetSafeHdc(), 0, 0, handle, L"BINARY"), 0);
