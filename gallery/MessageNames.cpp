@@ -80,7 +80,8 @@ CString nameOfCommand(UINT code, HWND control)
 /// What controls ask whenever they paint is no news.
 bool isPainting(UINT code)
 {
-    return code == static_cast<UINT>(NM_CUSTOMDRAW) || code == static_cast<UINT>(LVN_GETDISPINFOW);
+    return code == static_cast<UINT>(NM_CUSTOMDRAW) || code == static_cast<UINT>(LVN_GETDISPINFOW) ||
+           code == static_cast<UINT>(LVN_ODCACHEHINT);
 }
 } // namespace
 

@@ -1,44 +1,20 @@
 // The page of pictures: what its controls do. Everything that may take long runs on a thread and can be cancelled.
 #include "PagePictures.h"
+#include "PictureClaims.h"
 #include "PlatformPicture.h"
 #include "SamplePictures.h"
 #include "resource.h"
 #include <afxdlgs.h>
-#include <algorithm>
 
 namespace
 {
 constexpr UINT_PTR workTimer = 1;
 constexpr UINT workMilliseconds = 40;
-constexpr DWORD shortWork = 120;              // milliseconds: shorter work changes no control
-constexpr LONGLONG largestPicture = 64 << 20; // pixels
-constexpr const wchar_t* fileFilter = L"Pictures|*.gif;*.bmp;*.jpg;*.jpeg;*.ico;*.wmf;*.emf|All files|*.*||";
-
-bool isTooLarge(CSize size)
-{
-    return static_cast<LONGLONG>(size.cx) * size.cy > largestPicture;
-}
-
-CString pixels(CSize size)
-{
-    CString text;
-    text.Format(L"%d by %d pixels", size.cx, size.cy);
-    return text;
-}
+constexpr DWORD shortWork = 120; // milliseconds: shorter work changes no control
 
 CSize sizeOf(const CKxGifImage& image)
 {
     return CSize(static_cast<int>(image.GetWidth()), static_cast<int>(image.GetHeight()));
-}
-
-/// The size that a GIF stream claims; 0 by 0 when it is none.
-CSize claimedSize(PictureSource& source)
-{
-    CKxGifImage probe;
-    probe.SetEscape(-1); // dimensions only
-    if (!probe.Decode(source.bytes.data(), static_cast<unsigned long>(source.bytes.size())))
-        return CSize(0, 0);
-    return sizeOf(probe);
 }
 } // namespace
 
@@ -96,7 +72,7 @@ void CPagePictures::OnDestroy()
 void CPagePictures::OnOpen()
 {
     const CString folder = samplesFolder();
-    CFileDialog dialog(TRUE, nullptr, nullptr, OFN_HIDEREADONLY | OFN_NOCHANGEDIR, fileFilter, this);
+    CFileDialog dialog(TRUE, nullptr, nullptr, OFN_HIDEREADONLY | OFN_NOCHANGEDIR, pictureFilter, this);
     if (m_source.name.IsEmpty())
         dialog.m_ofn.lpstrInitialDir = folder;
     if (dialog.DoModal() != IDOK)
@@ -134,40 +110,31 @@ void CPagePictures::open(PictureSource source)
 
 bool CPagePictures::openGif()
 {
-    const CString name = L"\"" + m_source.name + L"\" ";
-    const CSize size = claimedSize(m_source);
     m_frames = listGifFrames(m_source.bytes);
-    const bool framesFit =
-        std::none_of(m_frames.begin(), m_frames.end(),
-                     [](const GifFrame& frame) { return isTooLarge(CSize(frame.width, frame.height)); });
-    if (isTooLarge(size) || !framesFit)
-        say(name + L"claims to have " + pixels(size) + L", more than are shown here.");
-    else if (m_frames.empty())
-        say(name + L"begins like a GIF, but holds no picture that can be read.");
-    else
+    const CString refusal = refusalOfGif(m_source, m_frames);
+    if (refusal.IsEmpty())
     {
         decodeFrame(Task::Open, 0);
         return true;
     }
     m_frames.clear();
+    say(refusal);
     return false;
 }
 
 bool CPagePictures::openOther()
 {
-    const CString name = L"\"" + m_source.name + L"\" ";
     const CSize size = platformSize(m_source.bytes);
-    if (size.cx <= 0 || size.cy <= 0)
-        say(name + L"is not a picture that can be read.");
-    else if (isTooLarge(size))
-        say(name + L"has " + pixels(size) + L", more than are shown here.");
-    else
+    const CString refusal = refusalOfOther(m_source, size);
+    if (refusal.IsEmpty())
         m_frame = platformPixels(m_source.bytes, size);
     if (!m_frame)
+    {
+        say(refusal.IsEmpty() ? L"There is not enough memory to show this picture." : refusal);
         return false;
-    say(L"Opened " + name + L"(" + grouped(m_source.bytes.size()) +
-        L" bytes): the platform decodes it, and its pixels "
-        L"are handed to the image class.");
+    }
+    say(L"Opened \"" + m_source.name + L"\" (" + grouped(m_source.bytes.size()) +
+        L" bytes): the platform decodes it, and its pixels are handed to the image class.");
     showOriginal(size);
     showImage();
     return true;

@@ -65,6 +65,15 @@ private:
     void offerDepths();
     void enableControls();
     CRect placeOf(int id) const;
+
+    // The walk.
+    void settle();
+    void pickSample(int number);
+    void clickReduce(int bits, bool diffuse);
+    void walkReductions(const TakePicture& take);
+    void walkLongWork(const TakePicture& take);
+    void walkUnreadable(const TakePicture& take);
+
     CKxGifImage* shown() const { return m_reduced ? m_reduced.get() : m_frame.get(); }
     std::unique_ptr<CKxGifImage> copyOf(const CKxGifImage& image) const;
 

@@ -1,5 +1,6 @@
 // The page of pictures: what its controls show, and which of them can be used.
 #include "PagePictures.h"
+#include "PictureClaims.h"
 #include "resource.h"
 
 namespace
@@ -87,7 +88,7 @@ void CPagePictures::showOriginal(CSize size)
     m_original.Invalidate();
     CString facts;
     if (loaded)
-        facts.Format(L"%d by %d pixels", size.cx, size.cy);
+        facts = pixelsText(size);
     else if (size.cx > 0)
         facts = L"The platform cannot show this file.";
     SetDlgItemText(IDC_ORIGINAL_FACTS, facts);

@@ -1,4 +1,5 @@
 // The list of pages.
+#include "PageAnimation.h"
 #include "PageFormats.h"
 #include "PagePictures.h"
 #include "PageTips.h"
@@ -11,5 +12,6 @@ std::vector<std::unique_ptr<CPage>> makePages()
     pages.push_back(std::make_unique<CPageFormats>());
     pages.push_back(std::make_unique<CPageTips>());
     pages.push_back(std::make_unique<CPagePictures>());
+    pages.push_back(std::make_unique<CPageAnimation>());
     return pages;
 }

@@ -3,6 +3,9 @@
 #include <afxwin.h>
 #include <vector>
 
+/// What the dialog for opening offers.
+inline constexpr const wchar_t* pictureFilter = L"Pictures|*.gif;*.bmp;*.jpg;*.jpeg;*.ico;*.wmf;*.emf|All files|*.*||";
+
 struct PictureSource
 {
     CString name; ///< without its folder

@@ -235,13 +235,13 @@ def load_gif():
     gif.frame(beam(None), delay=60, disposal=KEEP)
     for step in range(1, 6):  # whole strips over the first frame
         gif.frame(beam(step / 6).cut(18, 8, 222, 104), 18, 8, delay=14, disposal=KEEP)
-    stamp = Drawing(44, 26, CLEAR)  # a stamp that goes away again
+    stamp = Drawing(44, 26, CLEAR)
     stamp.line(1, 1, 42, 1, GREEN, 2), stamp.line(1, 24, 42, 24, GREEN, 2)
     stamp.line(1, 1, 1, 24, GREEN, 2), stamp.line(42, 1, 42, 24, GREEN, 2)
     stamp.text(11, 6, "OK", GREEN, 3)
-    gif.frame(stamp, 12, 14, delay=80, disposal=TO_PREVIOUS, transparent=CLEAR)
+    gif.frame(stamp, 12, 14, delay=80, disposal=TO_PREVIOUS, transparent=CLEAR)  # goes away again
     gif.frame(beam(None).cut(18, 8, 222, 104), 18, 8, delay=30, disposal=TO_BACKGROUND)
-    gif.frame(beam(None), delay=50, disposal=KEEP)
+    gif.frame(stamp, 98, 44, delay=70, disposal=KEEP, transparent=CLEAR)  # on what the frame before left empty
     return gif.bytes()
 
 

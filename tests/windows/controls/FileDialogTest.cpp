@@ -2,6 +2,7 @@
 #include <afxdlgs.h>
 
 #include "Support.h"
+#include "support/ModalUser.h"
 
 #include <dlgs.h>
 
@@ -88,25 +89,6 @@ private:
     size_t m_step = 0;
     inline static CDrivenDialog* s_driven = nullptr;
 };
-
-/// A key that the dialog's own loop takes, so that it means what it means there.
-void press(WORD code)
-{
-    INPUT inputs[2] = {};
-    for (INPUT& input : inputs)
-    {
-        input.type = INPUT_KEYBOARD;
-        input.ki.wVk = code;
-    }
-    inputs[1].ki.dwFlags = KEYEVENTF_KEYUP;
-    ::SendInput(2, inputs, sizeof *inputs);
-}
-
-void typeName(const std::wstring& name)
-{
-    typeText(name.c_str());
-    press(VK_RETURN);
-}
 } // namespace
 
 TEST(FileDialog, a_typed_name_is_the_answer)
@@ -114,7 +96,7 @@ TEST(FileDialog, a_typed_name_is_the_answer)
     const Folder folder{L"beam.gif"};
     CParentWindow parent;
     CDrivenDialog dialog(TRUE, nullptr, nullptr, OFN_HIDEREADONLY, L"Pictures|*.gif||", &parent);
-    dialog.user = {[&](CDrivenDialog&) { typeName(folder.path(L"beam.gif")); }};
+    dialog.user = {[&](CDrivenDialog&) { typeForModal(folder.path(L"beam.gif").c_str()); }};
     ASSERT_EQ(IDOK, dialog.DoModal());
     EXPECT_EQ(folder.path(L"beam.gif"), plain(dialog.GetPathName()));
     EXPECT_STREQ(L"beam.gif", dialog.GetFileName());
@@ -133,7 +115,7 @@ TEST(FileDialog, escape_is_the_answer_cancel)
 {
     CParentWindow parent;
     CDrivenDialog dialog(TRUE, nullptr, nullptr, OFN_HIDEREADONLY, nullptr, &parent);
-    dialog.user = {[](CDrivenDialog&) { press(VK_ESCAPE); }};
+    dialog.user = {[](CDrivenDialog&) { pressForModal(VK_ESCAPE); }};
     EXPECT_EQ(IDCANCEL, dialog.DoModal());
     EXPECT_EQ(0, dialog.accepted);
     EXPECT_EQ(nullptr, dialog.GetStartPosition());
@@ -146,7 +128,7 @@ TEST(FileDialog, a_dialog_can_be_opened_twice)
     CDrivenDialog dialog(TRUE, nullptr, nullptr, OFN_HIDEREADONLY, nullptr, &parent);
     for (const wchar_t* name : {L"one.bmp", L"two.bmp"})
     {
-        dialog.user = {[&](CDrivenDialog&) { typeName(folder.path(name)); }};
+        dialog.user = {[&](CDrivenDialog&) { typeForModal(folder.path(name).c_str()); }};
         *dialog.m_ofn.lpstrFile = L'\0';
         ASSERT_EQ(IDOK, dialog.DoModal());
         EXPECT_STREQ(name, dialog.GetFileName());
@@ -159,11 +141,11 @@ TEST(FileDialog, a_name_that_is_not_accepted_keeps_the_dialog_open)
     CParentWindow parent;
     CDrivenDialog dialog(TRUE, nullptr, nullptr, OFN_HIDEREADONLY, nullptr, &parent);
     dialog.refusals = 1;
-    dialog.user = {[&](CDrivenDialog&) { typeName(folder.path(L"beam.gif")); },
+    dialog.user = {[&](CDrivenDialog&) { typeForModal(folder.path(L"beam.gif").c_str()); },
                    [](CDrivenDialog& open)
                    {
                        EXPECT_EQ(1, open.accepted);
-                       press(VK_RETURN);
+                       pressForModal(VK_RETURN);
                    }};
     EXPECT_EQ(IDOK, dialog.DoModal());
     EXPECT_EQ(2, dialog.accepted);
@@ -174,7 +156,7 @@ TEST(FileDialog, saving_appends_the_default_extension)
     const Folder folder{};
     CParentWindow parent;
     CDrivenDialog dialog(FALSE, L"gif", nullptr, OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, L"GIF|*.gif||", &parent);
-    dialog.user = {[&](CDrivenDialog&) { typeName(folder.path(L"plan")); }};
+    dialog.user = {[&](CDrivenDialog&) { typeForModal(folder.path(L"plan").c_str()); }};
     ASSERT_EQ(IDOK, dialog.DoModal());
     EXPECT_EQ(folder.path(L"plan.gif"), plain(dialog.GetPathName()));
 }
@@ -198,7 +180,7 @@ TEST(FileDialog, the_open_dialog_tells_its_folder_and_name)
         EXPECT_STREQ(L"Take", text);
         open.HideControl(stc2);
         EXPECT_FALSE(::IsWindowVisible(::GetDlgItem(open.whole(), stc2)));
-        press(VK_ESCAPE);
+        pressForModal(VK_ESCAPE);
     };
     dialog.user = {look};
     EXPECT_EQ(IDCANCEL, dialog.DoModal());
@@ -211,7 +193,7 @@ TEST(FileDialog, several_names_are_paths_in_one_folder)
     const std::wstring place = folder.itself();
     CDrivenDialog dialog(TRUE, nullptr, nullptr, OFN_ALLOWMULTISELECT | OFN_HIDEREADONLY, nullptr, &parent);
     dialog.m_ofn.lpstrInitialDir = place.c_str();
-    dialog.user = {[&](CDrivenDialog&) { typeName(L"\"a.txt\" \"b.txt\""); }};
+    dialog.user = {[&](CDrivenDialog&) { typeForModal(L"\"a.txt\" \"b.txt\""); }};
     ASSERT_EQ(IDOK, dialog.DoModal());
     POSITION position = dialog.GetStartPosition();
     EXPECT_EQ(folder.path(L"a.txt"), plain(dialog.GetNextPathName(position)));

@@ -3,6 +3,7 @@
 #include "gallery/PagePictures.h"
 #include "gallery/SamplePictures.h"
 #include "gallery/resource.h"
+#include "support/ModalUser.h"
 
 namespace
 {
@@ -39,6 +40,12 @@ public:
 CString sample(const wchar_t* name)
 {
     return samplesFolder() + L"\\" + name;
+}
+
+/// What the page says of the animated sample, behind its name.
+std::wstring loadFacts()
+{
+    return std::wstring(L" (" + grouped(contentOf(sample(L"load.gif")).size()) + L" bytes): a GIF of 9 frames.");
 }
 
 Bytes bytesOf(const char* text)
@@ -91,51 +98,6 @@ Bytes firstOf(const Bytes& bytes, size_t count)
 {
     return Bytes(bytes.begin(), bytes.begin() + static_cast<ptrdiff_t>(count));
 }
-
-/// A key that the loop of a modal dialog takes.
-void press(WORD code)
-{
-    INPUT inputs[2] = {};
-    inputs[0].type = inputs[1].type = INPUT_KEYBOARD;
-    inputs[0].ki.wVk = inputs[1].ki.wVk = code;
-    inputs[1].ki.dwFlags = KEYEVENTF_KEYUP;
-    ::SendInput(2, inputs, sizeof *inputs);
-}
-
-/// Types a name into the next modal dialog, and Enter; and agrees to a question that comes then.
-class NameTyper
-{
-public:
-    explicit NameTyper(const CString& name)
-    {
-        s_name = name;
-        s_main = ::GetForegroundWindow();
-        s_dialog = nullptr;
-        s_timer = ::SetTimer(nullptr, 0, 100, look);
-    }
-    ~NameTyper() { ::KillTimer(nullptr, s_timer); }
-    NameTyper(const NameTyper&) = delete;
-    NameTyper& operator=(const NameTyper&) = delete;
-
-private:
-    static void CALLBACK look(HWND, UINT, UINT_PTR, DWORD)
-    {
-        const HWND active = ::GetActiveWindow();
-        if (!active || active == s_main || active == s_dialog || !::IsWindowVisible(active))
-            return;
-        if (s_dialog)
-        {
-            press('Y');
-            return;
-        }
-        s_dialog = active;
-        typeText(s_name);
-        press(VK_RETURN);
-    }
-    inline static CString s_name;
-    inline static HWND s_main = nullptr, s_dialog = nullptr;
-    inline static UINT_PTR s_timer = 0;
-};
 } // namespace
 
 TEST(PicturesPage, files_that_are_no_pictures_get_one_sentence)
@@ -215,7 +177,7 @@ TEST(PicturesPage, names_that_are_no_files_get_one_sentence)
         EXPECT_FALSE(host.enabled(IDC_SAVE_GIF));
     }
     ::CloseHandle(lock);
-    EXPECT_EQ(L"Opened \"locked.gif\" (5,202 bytes): a GIF of 9 frames.", host.open(locked));
+    EXPECT_EQ(L"Opened \"locked.gif\"" + loadFacts(), host.open(locked));
     EXPECT_NE(std::wstring::npos, host.open(folder.path(L"")).find(L"is a folder, not a picture."));
 }
 
@@ -237,7 +199,7 @@ TEST(PicturesPage, a_damaged_stream_is_shown_or_refused_and_the_page_lives_on)
         const std::wstring said = host.open(folder.write(L"flipped.gif", flipped));
         ASSERT_EQ(L'.', said.back()) << bit;
     }
-    EXPECT_EQ(L"Opened \"load.gif\" (5,202 bytes): a GIF of 9 frames.", host.open(sample(L"load.gif")));
+    EXPECT_EQ(L"Opened \"load.gif\"" + loadFacts(), host.open(sample(L"load.gif")));
 }
 
 TEST(PicturesPage, the_file_dialog_opens_what_is_typed)
@@ -246,13 +208,13 @@ TEST(PicturesPage, the_file_dialog_opens_what_is_typed)
     const CString notes = folder.write(L"notes.txt", bytesOf("no picture"));
     PicturesHost host;
     {
-        const NameTyper typer(sample(L"portal.gif"));
+        const ModalUser user({[&] { typeForModal(sample(L"portal.gif")); }});
         host.clickOn(IDC_OPEN_PICTURE);
     }
     ASSERT_TRUE(host.idle());
     EXPECT_EQ(0U, host.status().rfind(L"Opened \"portal.gif\"", 0));
     {
-        const NameTyper typer(notes);
+        const ModalUser user({[&] { typeForModal(notes); }});
         host.clickOn(IDC_OPEN_PICTURE);
     }
     ASSERT_TRUE(host.idle());
@@ -292,7 +254,7 @@ TEST(PicturesPage, a_reduced_picture_is_saved_and_opened_again)
     EXPECT_EQ(L"Reduced to 4 bits with error diffusion.", host.status());
     EXPECT_EQ(L"Palette of 16 colours", host.text(IDC_PALETTE_CAPTION));
     {
-        const NameTyper typer(copy);
+        const ModalUser user({[&] { typeForModal(copy); }});
         host.clickOn(IDC_SAVE_GIF);
     }
     ASSERT_TRUE(host.idle());
@@ -312,7 +274,8 @@ TEST(PicturesPage, a_file_that_cannot_be_written_gets_one_sentence)
     const CString locked = folder.write(L"locked.gif", {});
     const HANDLE lock = ::CreateFileW(locked, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
     {
-        const NameTyper typer(folder.path(L"locked.gif"));
+        // The dialog asks whether the file shall be replaced.
+        const ModalUser user({[&] { typeForModal(locked); }, [] { pressForModal('Y'); }});
         host.clickOn(IDC_SAVE_GIF);
     }
     ::CloseHandle(lock);
