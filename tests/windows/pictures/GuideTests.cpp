@@ -61,8 +61,8 @@ bool loadWhite(const CString& path, HDC dc, CBitmap& bitmap)
     return CKxPictureEx::LoadBitmapPath(path, dc, 64, 48, bitmap, RGB(255, 255, 255)) != 0;
 }
 
-/// A GIF of `count` frames of one size, out of one that was written.
-CByteArray streamOf(int count)
+/// Writes a GIF of `count` frames of one size, out of one that was encoded.
+void makeStream(int count, CByteArray& all)
 {
     CKxGifImage image(20, 10, 8);
     image.SetStdPalette();
@@ -70,19 +70,19 @@ CByteArray streamOf(int count)
     image.Encode(one);
     constexpr INT_PTR head = 13 + 768;
     const INT_PTR frame = one.GetSize() - head - 1;
-    CByteArray all;
     all.SetSize(head + frame * count + 1);
     std::memcpy(all.GetData(), one.GetData(), static_cast<size_t>(head));
     for (int i = 0; i < count; ++i)
         std::memcpy(all.GetData() + head + frame * i, one.GetData() + head, static_cast<size_t>(frame));
     all[all.GetSize() - 1] = ';';
-    return all;
 }
 } // namespace
 
 TEST(Guide, a_frame_is_taken_reduced_and_written)
 {
-    CByteArray stream = streamOf(3), smaller, two = streamOf(2);
+    CByteArray stream, two, smaller;
+    makeStream(3, stream);
+    makeStream(2, two);
     ASSERT_TRUE(takeFrameSmaller(stream, smaller));
     CKxGifImage back(smaller);
     EXPECT_EQ(4, back.GetBpp());
@@ -106,7 +106,8 @@ TEST(Guide, a_dialog_shows_a_picture_and_plays_an_animation)
 {
     PictureBytes picture = resourceBytes(IDP_QUARTERS);
     const TemporaryFile file(L"guide.bmp", &picture);
-    CByteArray stream = streamOf(3);
+    CByteArray stream;
+    makeStream(3, stream);
     const PictureBytes animation(stream.GetData(), stream.GetData() + stream.GetSize());
     const TemporaryFile moving(L"guide.gif", &animation);
     CPictureDialog dialog;
