@@ -16,7 +16,7 @@ constexpr DWORD editorStyle = WS_CHILD | WS_VISIBLE | WS_BORDER | WS_TABSTOP | E
 static_assert(editorStyle == 0x50810084);
 constexpr UINT editorId = 1;
 
-/// The limits of a value that is typed: above zero, on purpose.
+/// The limits of a value that is typed. Kept on purpose: the lower one is no negative number.
 constexpr double smallestValue = 1.797693134862316e-150;
 constexpr double largestValue = 1.7976931348623157e+150;
 

@@ -90,6 +90,53 @@ public:
         } while (GetTickCount() - start < milliseconds);
     }
 
+    /// A real key, through the host's loop.
+    static void press(WORD code)
+    {
+        INPUT inputs[2] = {};
+        inputs[0].type = inputs[1].type = INPUT_KEYBOARD;
+        inputs[0].ki.wVk = inputs[1].ki.wVk = code;
+        inputs[1].ki.dwFlags = KEYEVENTF_KEYUP;
+        SendInput(2, inputs, sizeof(INPUT));
+        pump(10);
+    }
+    /// Real characters, through the host's loop.
+    static void type(const wchar_t* text)
+    {
+        for (; *text != 0; ++text)
+        {
+            INPUT inputs[2] = {};
+            inputs[0].type = inputs[1].type = INPUT_KEYBOARD;
+            inputs[0].ki.wScan = inputs[1].ki.wScan = *text;
+            inputs[0].ki.dwFlags = KEYEVENTF_UNICODE;
+            inputs[1].ki.dwFlags = KEYEVENTF_UNICODE | KEYEVENTF_KEYUP;
+            SendInput(2, inputs, sizeof(INPUT));
+            pump(5);
+        }
+    }
+    /// Replaces what stands in the open editor.
+    void retype(const wchar_t* text)
+    {
+        editor()->SetSel(0, -1);
+        type(text);
+    }
+    /// A real click at that x of the tree, in the middle of the row.
+    void clickRow(HTREEITEM item, int x)
+    {
+        CRect row;
+        tree().GetItemRect(item, &row, FALSE);
+        CPoint point(x, row.CenterPoint().y);
+        tree().ClientToScreen(&point);
+        click(point);
+        pump(10);
+    }
+    /// Selects a row and opens the editor at that x, by two clicks apart.
+    void edit(HTREEITEM item, int x)
+    {
+        tree().SelectItem(item);
+        clickRow(item, x);
+    }
+
     std::unique_ptr<CKxTreeListFrame> frame;
     std::vector<Heard> heard;                 ///< wParam of 0x435 and 0x436: the row itself
     std::function<void(const Heard&)> onHear; ///< runs inside the handler
