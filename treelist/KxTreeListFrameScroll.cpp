@@ -1,6 +1,8 @@
 // The frame of the tree list: sizes, the horizontal bar, scrolling. What is to be set is said in ScrollRules.h.
 #include "ScrollRules.h"
 
+#include <algorithm>
+
 #include "Surviving.h"
 #include "oxa/treelist/KxTreeListFrame.h"
 
@@ -29,8 +31,18 @@ CSize clientSize(const CWnd& window)
     return client.Size();
 }
 
+CSize outerSize(const CWnd& window)
+{
+    CRect place;
+    ::GetWindowRect(window.m_hWnd, &place);
+    return place.Size();
+}
+
+// Every insertion of a row comes by here, so that nothing is set twice.
 void resize(const CWnd& window, int width, int height)
 {
+    if (outerSize(window) == CSize(std::max(width, 0), std::max(height, 0)))
+        return;
     ::SetWindowPos(window.m_hWnd, nullptr, 0, 0, width, height, SWP_NOMOVE | keepOrder);
 }
 
@@ -76,15 +88,31 @@ Measures CKxTreeListFrame::Measure() const
 
 void CKxTreeListFrame::ShowBar(bool show)
 {
-    m_scrollBar.EnableWindow(show);
-    m_scrollBar.ShowWindow(show ? SW_SHOWNA : SW_HIDE);
+    const DWORD style = m_scrollBar.GetStyle();
+    if (((style & WS_DISABLED) == 0) != show)
+        m_scrollBar.EnableWindow(show);
+    if (((style & WS_VISIBLE) != 0) != show)
+        m_scrollBar.ShowWindow(show ? SW_SHOWNA : SW_HIDE);
+}
+
+void CKxTreeListFrame::SetBarRange(int low, int high)
+{
+    Range now;
+    m_scrollBar.GetScrollRange(&now.low, &now.high);
+    if (now != Range{low, high})
+        m_scrollBar.SetScrollRange(low, high);
 }
 
 void CKxTreeListFrame::PutHeader(int width)
 {
     CKxHeaderCtrl& header = m_tree.m_header;
-    header.SetWindowPos(nullptr, m_tree.m_horizontalOffset, 0, width, clientSize(header).cy,
-                        keepOrder | SWP_SHOWWINDOW);
+    const CRect wanted(CPoint(m_tree.m_horizontalOffset, 0), CSize(width, clientSize(header).cy));
+    CRect place;
+    header.GetWindowRect(&place);
+    ScreenToClient(&place);
+    if (place != wanted || (header.GetStyle() & WS_VISIBLE) == 0)
+        header.SetWindowPos(nullptr, wanted.left, wanted.top, wanted.Width(), wanted.Height(),
+                            keepOrder | SWP_SHOWWINDOW);
 }
 
 void CKxTreeListFrame::ShowFromTheLeft(const Measures& now)
@@ -118,7 +146,7 @@ void CKxTreeListFrame::ResetScrollBar()
     resize(m_tree, tree.cx, tree.cy);
     if (shown)
         resize(m_scrollBar, treelist::BarWidth(now, VerticalScrollVisible()), now.barHeight);
-    m_scrollBar.SetScrollRange(0, treelist::UpperEnd(now));
+    SetBarRange(0, treelist::UpperEnd(now));
     if (shown)
         FollowHeader();
     else
@@ -132,7 +160,9 @@ void CKxTreeListFrame::FollowHeader()
     m_tree.m_header.GetWindowRect(&header);
     ScreenToClient(&header);
     m_tree.m_horizontalOffset = header.left;
-    m_scrollBar.SetScrollPos(-header.left);
+    const int position = treelist::Difference(0, header.left);
+    if (m_scrollBar.GetScrollPos() != position)
+        m_scrollBar.SetScrollPos(position);
 }
 
 void CKxTreeListViewCtrl::ResetVertScrollBar()
@@ -161,7 +191,7 @@ void CKxTreeListFrame::ResetVertical()
     if (reset.treeHeight)
         resize(m_tree, now.frame.cx, *reset.treeHeight);
     if (reset.range)
-        m_scrollBar.SetScrollRange(reset.range->low, reset.range->high);
+        SetBarRange(reset.range->low, reset.range->high);
     if (reset.toTheLeftEnd)
         ShowFromTheLeft(now);
 }
@@ -216,7 +246,7 @@ void CKxTreeListFrame::OnSize(UINT type, int cx, int cy)
     resize(m_tree, now.frame.cx, resized.treeHeight);
     if (resized.barWidth)
         resize(m_scrollBar, *resized.barWidth, now.barHeight);
-    m_scrollBar.SetScrollRange(0, resized.upperEnd);
+    SetBarRange(0, resized.upperEnd);
     ResetVertical();
 }
 

@@ -130,6 +130,7 @@ private:
     void OnHeaderChanged();
     treelist::Measures Measure() const;
     void ShowBar(bool show);
+    void SetBarRange(int low, int high);
     void PutHeader(int width);
     void ShowFromTheLeft(const treelist::Measures& now);
     void FollowHeader();
