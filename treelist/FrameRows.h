@@ -61,7 +61,8 @@ typename Tree::Node FindOrAdd(Tree& tree, typename Tree::Node parent, const CStr
     if (found)
         return found;
     const auto added = tree.Append(parent, name);
-    tree.SetCell(added, 1, number);
+    if (added) // else there may be no tree any more
+        tree.SetCell(added, 1, number);
     return added;
 }
 
@@ -81,6 +82,8 @@ typename Tree::Node FindOrAdd(Tree& tree, typename Tree::Node parent, const CStr
     if (found)
         return found;
     const auto added = tree.Append(parent, name);
+    if (!added)
+        return added;
     tree.SetCell(added, 1, tree.FormatValue(value, 1));
     tree.SetValue(added, 1, value);
     return added;

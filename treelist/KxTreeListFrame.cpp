@@ -129,6 +129,7 @@ void CKxTreeListFrame::Initialize()
 {
     if (m_hWnd == nullptr || m_tree.m_hWnd != nullptr)
         return;
+    m_recalculationHeld = false;
     CRect window;
     GetWindowRect(&window);
     CKxHeaderCtrl& header = m_tree.m_header;
@@ -247,7 +248,11 @@ BOOL CKxTreeListFrame::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
         else if (CWnd* const parent = GetParent())
             parent->SendMessage(WM_NOTIFY, wParam, lParam);
     }
-    return here ? CWnd::OnNotify(wParam, lParam, result) : TRUE;
+    if (here)
+        return CWnd::OnNotify(wParam, lParam, result);
+    if (result != nullptr)
+        *result = TRUE; // calls off what the control, which has gone, was about to do
+    return TRUE;
 }
 
 BOOL CKxTreeListFrame::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)

@@ -51,6 +51,8 @@ public:
     }
     Node Append(Node parent, const CString& text)
     {
+        if (refuses)
+            return nullptr;
         Row& above = at(parent);
         above.children.push_back(std::make_unique<Row>());
         above.children.back()->parent = &above;
@@ -63,6 +65,7 @@ public:
         node->value = value;
         node->cells[column] = FormatValue(value, column);
     }
+    bool refuses = false;
     std::size_t childCount(Node node) { return at(node).children.size(); }
 
 private:
@@ -152,6 +155,14 @@ TEST(FindOrAdd, what_is_no_number_equals_nothing)
     const Node first = FindOrAdd(rows, Node(), L"beam", none);
     EXPECT_NE(first, FindOrAdd(rows, Node(), L"beam", none));
     EXPECT_FALSE(SameValue(std::numeric_limits<double>::infinity(), std::numeric_limits<double>::infinity()));
+}
+
+TEST(FindOrAdd, a_row_that_cannot_be_added_is_none)
+{
+    MemoryRows rows;
+    rows.refuses = true;
+    EXPECT_EQ(nullptr, FindOrAdd(rows, Node(), L"beam", 1));
+    EXPECT_EQ(nullptr, FindOrAdd(rows, Node(), L"beam", 1.5));
 }
 
 TEST(FindChildByText, gives_the_first_child_with_that_cell_0)

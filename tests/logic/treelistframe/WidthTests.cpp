@@ -39,7 +39,7 @@ TEST(StretchWidth, is_held_at_the_ends_of_int)
 {
     EXPECT_EQ(INT_MAX, StretchWidth(INT_MAX, 1)); // 2147483648
     EXPECT_EQ(INT_MAX, StretchWidth(INT_MAX, INT_MAX));
-    EXPECT_EQ(INT_MAX, StretchWidth(INT_MAX, 6)); // 2147483652, the multiple above the largest int
+    EXPECT_EQ(INT_MAX, StretchWidth(INT_MAX, 6));  // 2147483652, the multiple above the largest int
     EXPECT_EQ(INT_MIN, StretchWidth(INT_MIN, -1)); // -2147483649
     EXPECT_EQ(-INT_MAX, StretchWidth(INT_MIN, 1)); // -2147483648 + 1 step
 }

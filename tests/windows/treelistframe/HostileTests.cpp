@@ -162,6 +162,35 @@ TEST(EndedMeanwhile, by_a_notification_of_the_header)
     EXPECT_EQ(nullptr, host.frame);
 }
 
+TEST(EndedMeanwhile, when_a_divider_begins_to_be_dragged)
+{
+    FrameHost host;
+    OpenFrame& frame = wide(host);
+    deleteOn(host, WM_NOTIFY, static_cast<UINT>(HDN_BEGINTRACKW));
+    dragDivider(frame, 0, 20);
+    EXPECT_EQ(nullptr, host.frame);
+}
+
+TEST(EndedMeanwhile, before_a_column_changes)
+{
+    FrameHost host;
+    OpenFrame& frame = wide(host);
+    deleteOn(host, WM_NOTIFY, static_cast<UINT>(HDN_ITEMCHANGINGW));
+    frame.header().SetSortImage(1, 1);
+    EXPECT_EQ(nullptr, host.frame);
+}
+
+TEST(EndedMeanwhile, before_a_click_on_the_header_shows_its_image)
+{
+    FrameHost host;
+    wide(host);
+    deleteOn(host, WM_NOTIFY, static_cast<UINT>(HDN_ITEMCHANGINGW));
+    NMHEADERW header = {};
+    header.hdr = {host.frame->header().m_hWnd, 337, static_cast<UINT>(HDN_ITEMCLICKW)};
+    host.frame->SendMessage(WM_NOTIFY, 337, reinterpret_cast<LPARAM>(&header));
+    EXPECT_EQ(nullptr, host.frame);
+}
+
 TEST(EndedMeanwhile, by_the_context_menu)
 {
     FrameHost host;
