@@ -45,6 +45,45 @@ TEST_F(MemoryListAgainstCombo, searches_alike)
             expectSameSearch(start, text);
 }
 
+TEST_F(MemoryListAgainstCombo, searches_for_beginnings_alike)
+{
+    for (const wchar_t* text : {L"Poteau", L"poutre", L"[cadre]", L"[-c-]", L"\x00C9t\x00E9", L"co-op", L"", L"pot"})
+        add(text);
+    for (int start = -1; start < 9; ++start)
+        for (const wchar_t* text : {L"", L"p", L"PO", L"pot", L"Poteaux", L"cadre", L"[CAD", L"c", L"c-", L"[-", L"-c",
+                                    L"\x00E9", L"e", L"coop", L"co-"})
+        {
+            EXPECT_EQ(memory.FindString(start, text), combo.FindString(start, text)) << text << " from " << start;
+            expectSameSearch(start, text);
+        }
+}
+
+TEST_F(MemoryListAgainstCombo, keeps_selection_and_text_apart_alike)
+{
+    const auto expectSameText = [this]
+    {
+        CString text;
+        combo.GetWindowText(text);
+        EXPECT_EQ(memory.GetEditText(), text);
+        expectSame();
+    };
+    for (const wchar_t* text : {L"a", L"b", L"c"})
+        add(text);
+    EXPECT_EQ(memory.SetCurSel(1), combo.SetCurSel(1));
+    memory.SetEditText(L"typed");
+    combo.SetWindowText(L"typed");
+    expectSameText();
+    EXPECT_EQ(memory.DeleteString(1), combo.DeleteString(1));
+    expectSameText();
+    EXPECT_EQ(memory.SetCurSel(-1), combo.SetCurSel(-1));
+    expectSameText();
+    memory.SetEditText(L"typed");
+    combo.SetWindowText(L"typed");
+    memory.ResetContent();
+    combo.ResetContent();
+    expectSameText();
+}
+
 TEST_F(MemoryListAgainstCombo, lives_through_the_same_operations_alike)
 {
     std::mt19937 random(7); // a fixed seed
