@@ -82,7 +82,7 @@ void ColorReduction::ReduceRow(std::size_t y)
     }
     else
     {
-        unpackRow(m_current.data(), m_source.Row(y), m_source.width, m_source.bits);
+        unpackRow(m_current.data(), m_source.Row(y), 0, m_source.width, m_source.bits);
         const IndexedRow row{m_current.data(), m_source.palette, nullptr};
         for (std::size_t x = 0; x < m_source.width; ++x)
         {
@@ -101,9 +101,9 @@ void ColorReduction::DiffuseRow(std::size_t y)
         Diffuse(TrueColorRow{m_source.Row(y)}, TrueColorRow{above}, hasAbove);
     else
     {
-        unpackRow(m_current.data(), m_source.Row(y), m_source.width, m_source.bits);
+        unpackRow(m_current.data(), m_source.Row(y), 0, m_source.width, m_source.bits);
         if (hasAbove)
-            unpackRow(m_above.data(), above, m_source.width, m_source.bits);
+            unpackRow(m_above.data(), above, 0, m_source.width, m_source.bits);
         Diffuse(IndexedRow{m_current.data(), m_source.palette, &*m_sourceChooser},
                 IndexedRow{m_above.data(), m_source.palette, &*m_sourceChooser}, hasAbove);
         packRow(m_source.Row(y), m_current.data(), m_source.width, m_source.bits);

@@ -128,9 +128,8 @@ bool CKxGifImage::GifReading::DrawObserved(const Frame& frame, const GifFrameCol
     std::vector<std::uint8_t> pixels(descriptor.width);
     for (std::size_t y = 0; y < descriptor.height && HasPixels(descriptor); ++y)
     {
-        const std::uint8_t* const row = m_image.GetBits(static_cast<unsigned long>(y));
-        for (std::size_t x = 0; x < pixels.size(); ++x)
-            pixels[x] = packedPixel(row, x, static_cast<int>(frame.depth));
+        unpackRow(pixels.data(), m_image.GetBits(static_cast<unsigned long>(y)), 0, pixels.size(),
+                  static_cast<int>(frame.depth));
         m_canvas.PutRow(std::size_t{m_screen.screenHeight} - descriptor.top - descriptor.height + y, descriptor.left,
                         pixels.data(), pixels.size(), colors);
     }

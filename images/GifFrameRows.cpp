@@ -118,8 +118,7 @@ void GifRowStore::Draw(GifCanvas& canvas, std::size_t screenHeight, const GifFra
             canvas.PutZeros(y, m_frame.left, m_frame.width, colors);
             continue;
         }
-        for (std::size_t x = 0; x < pixels.size(); ++x)
-            pixels[x] = packedPixel(m_packed.data() + m_places[row], x, m_depth);
+        unpackRow(pixels.data(), m_packed.data() + m_places[row], 0, pixels.size(), m_depth);
         canvas.PutRow(y, m_frame.left, pixels.data(), pixels.size(), colors);
     }
 }

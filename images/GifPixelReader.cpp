@@ -2,53 +2,8 @@
 #include "GifPixelReader.h"
 
 #include <algorithm>
-#include <cstring>
+#include "GifRowPacking.h"
 #include "oxa/images/KxGifImage.h"
-
-namespace
-{
-std::uint8_t packedPixel(const unsigned char* row, std::size_t x, std::size_t bits)
-{
-    const std::size_t perByte = 8 / bits;
-    const std::size_t shift = (perByte - 1 - x % perByte) * bits;
-    return static_cast<std::uint8_t>(row[x / perByte] >> shift & ((1U << bits) - 1U));
-}
-
-/// The eight pixels of a byte in memory order: the product puts bit 7 - i of the byte to the top of byte i.
-std::uint64_t eightPixels(unsigned char packed)
-{
-    return (packed * 0x8040201008040201U & 0x8080808080808080U) >> 7;
-}
-
-void unpackBytes(const unsigned char* bytes, std::size_t count, std::size_t bits, std::uint8_t* pixels)
-{
-    if (bits == 1)
-        for (std::size_t i = 0; i < count; ++i)
-        {
-            const std::uint64_t eight = eightPixels(bytes[i]);
-            std::memcpy(pixels + i * 8, &eight, sizeof eight);
-        }
-    else
-        for (std::size_t i = 0; i < count; ++i)
-        {
-            pixels[i * 2] = bytes[i] >> 4;
-            pixels[i * 2 + 1] = bytes[i] & 15;
-        }
-}
-
-/// `count` pixels of `bits` bits from `x` on, one byte each.
-void unpack(const unsigned char* row, std::size_t x, std::size_t count, std::size_t bits, std::uint8_t* pixels)
-{
-    const std::size_t perByte = 8 / bits;
-    const std::size_t end = x + count;
-    for (; x < end && x % perByte != 0; ++x)
-        *pixels++ = packedPixel(row, x, bits);
-    const std::size_t whole = (end - x) / perByte;
-    unpackBytes(row + x / perByte, whole, bits, pixels);
-    for (std::size_t i = whole * perByte; x + i < end; ++i)
-        pixels[i] = packedPixel(row, x + i, bits);
-}
-} // namespace
 
 int GifPixelReader::NextPixel(const CKxGifImage& image, EncoderCursor& cursor)
 {
@@ -78,7 +33,7 @@ std::span<const std::uint8_t> GifPixelReader::RestOfRow()
     if (m_image.GetBpp() < 8)
     {
         count = std::min(count, sizeof m_unpacked);
-        unpack(row, x, count, m_image.GetBpp(), m_unpacked);
+        unpackRow(m_unpacked, row, x, count, m_image.GetBpp());
         pixels = m_unpacked;
     }
     Advance(m_image, m_cursor, count);

@@ -110,7 +110,7 @@ int CKxGifImage::GifReading::CountFrames(tag_TabCol table, const tag_dscgif& scr
             afterNull = value == 0;
     }
     m_file.Seek(start, 0);
-    return static_cast<int>(m_counted.size());
+    return m_frames;
 }
 
 // False when there is no use in going on.
@@ -120,8 +120,8 @@ bool CKxGifImage::GifReading::CountFrame(tag_TabCol& table, const tag_dscgif& sc
     if (!ReadDescriptor(descriptor) || !IsInside(descriptor, screen))
         return true;
     ReadTable(descriptor.flags, table);
-    m_counted.push_back({descriptor, DepthOf(table), Position(), 0});
-    Frame& frame = m_counted.back();
+    ++m_frames;
+    Frame& frame = m_lastCounted = {descriptor, DepthOf(table), Position(), 0};
     if (m_way == GifWay::Observed)
         return CountObserved(frame);
     if (IsTooLarge(descriptor))
@@ -129,6 +129,8 @@ bool CKxGifImage::GifReading::CountFrame(tag_TabCol& table, const tag_dscgif& sc
         m_sound = false;
         return false;
     }
+    if (HasPixels(descriptor))
+        m_lastWithPixels = frame;
     if (m_way == GifWay::TwoPasses)
         CountLengths(frame);
     else
@@ -166,8 +168,9 @@ void CKxGifImage::GifReading::CountBlocks(Frame& frame)
     ++at;
     while (m_sound && at < m_size && m_bytes[at] != 0)
         at += m_bytes[at] + std::size_t{1};
-    m_sound = m_sound && at < m_size;
+    m_sound = m_sound && at < m_size && m_counted.size() < MostInOnePass;
     frame.end = at + 1;
+    m_counted.push_back(frame);
     m_file.Seek(static_cast<long>(at + 1), 0);
 }
 
@@ -175,19 +178,17 @@ void CKxGifImage::GifReading::CountBlocks(Frame& frame)
 // takes its place.
 void CKxGifImage::GifReading::LeaveLastCounted()
 {
-    if (m_way != GifWay::TwoPasses || m_counted.empty())
+    if (m_way != GifWay::TwoPasses || m_frames == 0)
         return;
     m_image.Destroy();
-    const auto last =
-        std::find_if(m_counted.rbegin(), m_counted.rend(),
-                     [](const Frame& frame) { return HasPixels(frame.descriptor) && !IsTooLarge(frame.descriptor); });
-    if (last == m_counted.rend())
+    const Frame& last = m_lastWithPixels;
+    const tag_image& descriptor = last.descriptor;
+    if (!HasPixels(descriptor))
         return;
-    const tag_image& descriptor = last->descriptor;
-    m_image.Create(descriptor.width, descriptor.height, last->depth);
-    if (last != m_counted.rbegin())
+    m_image.Create(descriptor.width, descriptor.height, last.depth);
+    if (last.start != m_lastCounted.start)
     {
-        m_image.Destroy();
+        m_image.Destroy(); // only the sizes of that frame are left
         return;
     }
     const std::size_t position = Position();
@@ -197,7 +198,7 @@ void CKxGifImage::GifReading::LeaveLastCounted()
         std::copy(m_prefixBefore.begin(), m_prefixBefore.end(), state.prefix.data() + state.prefix.size() / 2);
     else
         state.prefixFilled = false;
-    m_file.Seek(static_cast<long>(last->start), 0);
+    m_file.Seek(static_cast<long>(last.start), 0);
     BeginRaster(descriptor);
     CKxGifImageIterator iterator(&m_image);
     iterator.Upset();

@@ -79,6 +79,8 @@ private:
     };
     class RowsOfImage;
 
+    static constexpr std::size_t MostInOnePass = 4096; // frames; streams of more are read in two passes
+
     bool ReadByte(std::uint8_t& value) { return m_file.Read(&value, 1, 1) == 1; }
     bool ReadDescriptor(tag_image& descriptor) { return m_file.Read(&descriptor, sizeof descriptor, 1) == 1; }
     void ReadTable(std::uint8_t flags, tag_TabCol& table);
@@ -127,8 +129,11 @@ private:
     const std::uint8_t* m_bytes = nullptr; // of the stream, unless it is observed
     std::size_t m_size = 0;
     GifLzwDecoder m_lzw;
-    std::size_t m_used = 0; // bytes of the stream, behind the last decoded raster
-    std::vector<Frame> m_counted{};
+    std::size_t m_used = 0;         // bytes of the stream, behind the last decoded raster
+    int m_frames = 0;               // counted so far
+    Frame m_lastCounted{};          // of these
+    Frame m_lastWithPixels{};       // of these
+    std::vector<Frame> m_counted{}; // all of them, in one pass only
     bool m_sound = true;
     std::vector<std::uint16_t> m_prefixBefore{}; // upper half of the table, before the last counted frame with pixels
 

@@ -87,17 +87,44 @@ inline std::uint8_t packedPixel(const std::uint8_t* row, std::size_t x, int bits
     return static_cast<std::uint8_t>(row[x >> pixelsToBytes(bits)] >> bitsBehind(x, bits) & ((1 << bits) - 1));
 }
 
-/// The reverse: `count` pixels of `bits` (1, 4 or 8) each become bytes.
-inline void unpackRow(std::uint8_t* to, const std::uint8_t* row, std::size_t count, int bits)
+/// The eight pixels of a byte at 1 bit, the leftmost one first in memory: the product puts bit 7 - i of the byte to the top
+/// of byte i.
+inline std::uint64_t eightPixels(std::uint8_t packed)
+{
+    return (packed * 0x8040201008040201U & 0x8080808080808080U) >> 7;
+}
+
+/// The pixels of `count` bytes of 1 or 4 bits each.
+inline void unpackBytes(std::uint8_t* to, const std::uint8_t* bytes, std::size_t count, int bits)
+{
+    if (bits == 1)
+        for (std::size_t i = 0; i < count; ++i)
+        {
+            const std::uint64_t eight = eightPixels(bytes[i]);
+            std::memcpy(to + i * 8, &eight, sizeof eight);
+        }
+    else
+        for (std::size_t i = 0; i < count; ++i)
+        {
+            to[i * 2] = bytes[i] >> 4;
+            to[i * 2 + 1] = bytes[i] & 15;
+        }
+}
+
+/// The reverse of `packRow`: `count` pixels from `x` on become bytes.
+inline void unpackRow(std::uint8_t* to, const std::uint8_t* row, std::size_t x, std::size_t count, int bits)
 {
     if (bits == 8)
     {
-        std::memcpy(to, row, count);
+        std::memcpy(to, row + x, count);
         return;
     }
-    const std::size_t group = bits == 4 ? 2 : 8;
-    const std::uint32_t mask = bits == 4 ? 15 : 1;
-    for (std::size_t i = 0; i < count; ++i)
-        to[i] =
-            static_cast<std::uint8_t>(row[i / group] >> (8 - (i % group + 1) * static_cast<std::size_t>(bits)) & mask);
+    const int toBytes = pixelsToBytes(bits);
+    const std::size_t inByte = (std::size_t{1} << toBytes) - 1;
+    for (; count > 0 && (x & inByte) != 0; --count)
+        *to++ = packedPixel(row, x++, bits);
+    const std::size_t whole = count >> toBytes;
+    unpackBytes(to, row + (x >> toBytes), whole, bits);
+    for (std::size_t i = whole << toBytes; i < count; ++i)
+        to[i] = packedPixel(row, x + i, bits);
 }

@@ -220,6 +220,11 @@ public:
     /// Reads frame `GetFrame()`, composed over those before it, from the position of the stream. A stream without global
     /// table whose frames are tiles is read as one 24-bit image. False for null, a stream that is no GIF or has no such
     /// frame, and after `SetEscape`. Damage inside a frame is tolerated.
+    ///
+    /// Whatever sizes a stream claims, a decode takes less memory than three canvases of at most `MaximumPixels` and
+    /// 1 MiB, beside the stream. Its time grows with the length of the stream (a code gives at most 4,096 pixels) and,
+    /// for each frame, with its rows and a 64th of its area; streams of a class derived from `CKxMemFile` are read byte
+    /// by byte, and there each frame costs its area.
     bool Decode(CKxMemFile* file);
 
     // Writing GIF
