@@ -12,7 +12,14 @@ struct Name
     const wchar_t* text;
 };
 
-constexpr std::array ownMessages = {Name{0xA5B, L"WM_KX_UNIT_FOCUS"}, Name{0xA5C, L"WM_KX_UNIT_VALIDATED"}};
+constexpr std::array ownMessages = {
+    Name{0xA5B, L"WM_KX_UNIT_FOCUS"},
+    Name{0xA5C, L"WM_KX_UNIT_VALIDATED"},
+    Name{0x433, L"WM_KX_TREELIST_CLICK_BEFORE"},
+    Name{0x434, L"WM_KX_TREELIST_CLICK_AFTER"},
+    Name{0x435, L"WM_KX_TREELIST_EDIT_BEFORE"},
+    Name{0x436, L"WM_KX_TREELIST_EDIT_AFTER"},
+};
 
 constexpr std::array comboCodes = {
     Name{CBN_SELCHANGE, L"CBN_SELCHANGE"},   Name{CBN_DBLCLK, L"CBN_DBLCLK"},
@@ -46,6 +53,17 @@ constexpr std::array notifyCodes = {
     Name{static_cast<UINT>(TTN_SHOW), L"TTN_SHOW"},
     Name{static_cast<UINT>(TTN_POP), L"TTN_POP"},
     Name{static_cast<UINT>(TTN_NEEDTEXTW), L"TTN_NEEDTEXT"},
+    Name{static_cast<UINT>(TVN_SELCHANGINGW), L"TVN_SELCHANGING"},
+    Name{static_cast<UINT>(TVN_SELCHANGEDW), L"TVN_SELCHANGED"},
+    Name{static_cast<UINT>(TVN_ITEMEXPANDINGW), L"TVN_ITEMEXPANDING"},
+    Name{static_cast<UINT>(TVN_ITEMEXPANDEDW), L"TVN_ITEMEXPANDED"},
+    Name{static_cast<UINT>(TVN_BEGINLABELEDITW), L"TVN_BEGINLABELEDIT"},
+    Name{static_cast<UINT>(TVN_KEYDOWN), L"TVN_KEYDOWN"},
+    Name{static_cast<UINT>(HDN_ITEMCHANGINGW), L"HDN_ITEMCHANGING"},
+    Name{static_cast<UINT>(HDN_BEGINTRACKW), L"HDN_BEGINTRACK"},
+    Name{static_cast<UINT>(HDN_TRACKW), L"HDN_TRACK"},
+    Name{static_cast<UINT>(HDN_ENDTRACKW), L"HDN_ENDTRACK"},
+    Name{static_cast<UINT>(NM_RELEASEDCAPTURE), L"NM_RELEASEDCAPTURE"},
     Name{static_cast<UINT>(LVN_ITEMCHANGING), L"LVN_ITEMCHANGING"},
     Name{static_cast<UINT>(LVN_ITEMCHANGED), L"LVN_ITEMCHANGED"},
     Name{static_cast<UINT>(LVN_DELETEALLITEMS), L"LVN_DELETEALLITEMS"},
@@ -81,7 +99,8 @@ CString nameOfCommand(UINT code, HWND control)
 bool isPainting(UINT code)
 {
     return code == static_cast<UINT>(NM_CUSTOMDRAW) || code == static_cast<UINT>(LVN_GETDISPINFOW) ||
-           code == static_cast<UINT>(LVN_ODCACHEHINT);
+           code == static_cast<UINT>(LVN_ODCACHEHINT) || code == static_cast<UINT>(NM_SETCURSOR) ||
+           code == static_cast<UINT>(TVN_DELETEITEMW); // one a row
 }
 } // namespace
 

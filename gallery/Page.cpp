@@ -8,10 +8,15 @@ bool CPage::createIn(CWnd* parent, CMessageLog* log)
     return Create(MAKEINTRESOURCE(m_templateId), parent) != FALSE;
 }
 
-LRESULT CPage::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+void CPage::logMessage(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (m_log)
         m_log->record(message, wParam, lParam);
+}
+
+LRESULT CPage::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    logMessage(message, wParam, lParam);
     return CDialog::WindowProc(message, wParam, lParam);
 }
 

@@ -27,6 +27,9 @@ protected:
     void OnOK() override {}     // kept on purpose: Enter stays in the field
     void OnCancel() override {} // kept on purpose: Escape closes lists, never the page
 
+    /// Adds a line to the log for a message that went to a window other than this page.
+    void logMessage(UINT message, WPARAM wParam, LPARAM lParam);
+
     /// The middle of the control `id` of this page, in screen pixels.
     POINT middleOf(int id) const;
 

@@ -3,6 +3,7 @@
 #include "PageFormats.h"
 #include "PagePictures.h"
 #include "PageTips.h"
+#include "PageTree.h"
 #include "PageUnits.h"
 
 std::vector<std::unique_ptr<CPage>> makePages()
@@ -13,5 +14,6 @@ std::vector<std::unique_ptr<CPage>> makePages()
     pages.push_back(std::make_unique<CPageTips>());
     pages.push_back(std::make_unique<CPagePictures>());
     pages.push_back(std::make_unique<CPageAnimation>());
+    pages.push_back(std::make_unique<CPageTree>());
     return pages;
 }
