@@ -26,7 +26,8 @@ std::wstring Shown(const wchar_t* text, int width, Measured* measured = nullptr)
         }
         return count * characterWidth;
     };
-    return std::wstring(treelist::DrawCell(text, CRect(10, 0, 10 + width, 16), width, 0, measure).text);
+    const int right = width > INT_MAX - 10 ? INT_MAX : 10 + width;
+    return std::wstring(treelist::DrawCell(text, CRect(10, 0, right, 16), width, 0, measure).text);
 }
 
 TEST(CellText, that_is_too_long_ends_in_three_points)
