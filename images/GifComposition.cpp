@@ -124,7 +124,15 @@ bool CKxGifImage::GifReading::DrawObserved(const Frame& frame, const GifFrameCol
     iterator.Upset();
     DecodeRaster(&iterator, descriptor.width);
     if (m_image.GetEscape() != 0)
+    {
+        if (!HasPixels(descriptor) && m_counter > 0 && m_score < 2)
+        {
+            // No block, and the sizes of the picture so far.
+            m_image.m_Head.biWidth = m_picture.m_Head.biWidth;
+            m_image.m_Head.biHeight = m_picture.m_Head.biHeight;
+        }
         return false;
+    }
     std::vector<std::uint8_t> pixels(descriptor.width);
     for (std::size_t y = 0; y < descriptor.height && HasPixels(descriptor); ++y)
     {

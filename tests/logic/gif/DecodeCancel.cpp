@@ -79,6 +79,22 @@ TEST(GifCancel, a_stop_before_any_read_gives_what_the_plain_form_gives)
     }
 }
 
+TEST(GifCancel, a_stop_in_a_later_frame_without_rows_leaves_no_pixels_and_the_sizes_of_the_picture)
+{
+    Bytes bytes =
+        GifBuilder(2, 1, primaries()).frame(at(0, 0, 1, 1), 2, {1}).frame(at(0, 0, 1, 0), 2, {}).trailer().bytes();
+    WatchedFile file(bytes.data(), static_cast<unsigned long>(bytes.size()));
+    CKxGifImage image;
+    file.stopped = &image;
+    file.stopAt = 15; // header, table; 3 for each frame and 1 for the trailer; 3 for each frame: the last raster
+    image.SetFrame(1);
+    EXPECT_FALSE(image.Decode(&file));
+    EXPECT_EQ(file.reads, 15);
+    EXPECT_FALSE(image.IsValid());
+    EXPECT_EQ(image.GetWidth(), 2U);
+    EXPECT_EQ(image.GetHeight(), 1U);
+}
+
 TEST(GifCancel, another_thread_may_stop_a_decode)
 {
     Bytes bytes =
