@@ -27,7 +27,7 @@ CString TextOf(const CWnd& window)
     return text;
 }
 
-/// The tree of the tree list, as a cell search sees it.
+/// Of all columns, as a cell search takes them.
 std::vector<int> WidthsOf(CKxTreeListViewCtrl& tree)
 {
     std::vector<int> widths;

@@ -76,8 +76,8 @@ inline POINT centreOf(HWND window)
     return {(r.left + r.right) / 2, (r.top + r.bottom) / 2};
 }
 
-/// Presses and releases a key, with modifiers held: key('K', {VK_CONTROL}).
-inline void key(WORD code, std::initializer_list<WORD> modifiers = {})
+/// Puts a key that is pressed and released into the queue, with modifiers held, and leaves it to the caller's loop.
+inline void sendKey(WORD code, std::initializer_list<WORD> modifiers = {})
 {
     std::vector<INPUT> inputs;
     auto add = [&inputs](WORD k, DWORD flags)
@@ -95,7 +95,24 @@ inline void key(WORD code, std::initializer_list<WORD> modifiers = {})
     for (WORD m : modifiers)
         add(m, KEYEVENTF_KEYUP);
     SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+}
+
+/// Presses and releases a key, with modifiers held: key('K', {VK_CONTROL}).
+inline void key(WORD code, std::initializer_list<WORD> modifiers = {})
+{
+    sendKey(code, modifiers);
     pumpFor(10);
+}
+
+/// Puts a character into the queue, whatever the keyboard layout, and leaves it to the caller's loop.
+inline void sendCharacter(wchar_t character)
+{
+    INPUT input[2] = {};
+    input[0].type = input[1].type = INPUT_KEYBOARD;
+    input[0].ki.wScan = input[1].ki.wScan = character;
+    input[0].ki.dwFlags = KEYEVENTF_UNICODE;
+    input[1].ki.dwFlags = KEYEVENTF_UNICODE | KEYEVENTF_KEYUP;
+    SendInput(2, input, sizeof *input);
 }
 
 /// Types any characters, whatever the keyboard layout.
@@ -103,12 +120,7 @@ inline void typeText(const wchar_t* text)
 {
     for (; *text; ++text)
     {
-        INPUT input[2] = {};
-        input[0].type = input[1].type = INPUT_KEYBOARD;
-        input[0].ki.wScan = input[1].ki.wScan = *text;
-        input[0].ki.dwFlags = KEYEVENTF_UNICODE;
-        input[1].ki.dwFlags = KEYEVENTF_UNICODE | KEYEVENTF_KEYUP;
-        SendInput(2, input, sizeof *input);
+        sendCharacter(*text);
         pumpFor(5);
     }
 }

@@ -8,6 +8,7 @@
 
 #include "kitrel/KxUnitCtrl.h"
 #include "resource.h"
+#include "support/RealInput.h"
 
 inline CKxUnit metres(unsigned int precision = 3)
 {
@@ -86,7 +87,7 @@ public:
     /// A real key.
     static void press(WORD code)
     {
-        send(code, 0, 0);
+        sendKey(code);
         pump(10);
     }
     /// Real characters.
@@ -94,7 +95,7 @@ public:
     {
         for (; *text != 0; ++text)
         {
-            send(0, *text, KEYEVENTF_UNICODE);
+            sendCharacter(*text);
             pump(5);
         }
     }
@@ -123,19 +124,4 @@ protected:
     void OnCancel() override { ++cancelled; }
     afx_msg void OnSpanChanged() { ++changes; }
     DECLARE_MESSAGE_MAP()
-
-private:
-    static void send(WORD code, WORD character, DWORD flags)
-    {
-        INPUT inputs[2] = {};
-        for (INPUT& input : inputs)
-        {
-            input.type = INPUT_KEYBOARD;
-            input.ki.wVk = code;
-            input.ki.wScan = character;
-            input.ki.dwFlags = flags;
-        }
-        inputs[1].ki.dwFlags |= KEYEVENTF_KEYUP;
-        ::SendInput(2, inputs, sizeof(INPUT));
-    }
 };

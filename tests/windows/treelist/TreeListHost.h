@@ -93,11 +93,7 @@ public:
     /// A real key, through the host's loop.
     static void press(WORD code)
     {
-        INPUT inputs[2] = {};
-        inputs[0].type = inputs[1].type = INPUT_KEYBOARD;
-        inputs[0].ki.wVk = inputs[1].ki.wVk = code;
-        inputs[1].ki.dwFlags = KEYEVENTF_KEYUP;
-        SendInput(2, inputs, sizeof(INPUT));
+        sendKey(code);
         pump(10);
     }
     /// Real characters, through the host's loop.
@@ -105,12 +101,7 @@ public:
     {
         for (; *text != 0; ++text)
         {
-            INPUT inputs[2] = {};
-            inputs[0].type = inputs[1].type = INPUT_KEYBOARD;
-            inputs[0].ki.wScan = inputs[1].ki.wScan = *text;
-            inputs[0].ki.dwFlags = KEYEVENTF_UNICODE;
-            inputs[1].ki.dwFlags = KEYEVENTF_UNICODE | KEYEVENTF_KEYUP;
-            SendInput(2, inputs, sizeof(INPUT));
+            sendCharacter(*text);
             pump(5);
         }
     }

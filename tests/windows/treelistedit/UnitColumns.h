@@ -6,6 +6,7 @@
 #include "kitrel/KxUnitCtrl.h"
 #include "kitrel/KxUnitManager.h"
 #include "support/AnswerModal.h"
+#include "support/RealInput.h"
 #include "windows/treelist/TreeListHost.h"
 
 constexpr int nameColumn = 0;
@@ -73,34 +74,17 @@ protected:
     /// Real keys, by the host's own loop.
     void press(WORD code, bool shift = false)
     {
-        std::vector<INPUT> inputs;
-        const auto add = [&inputs](WORD key, DWORD flags)
-        {
-            INPUT input = {};
-            input.type = INPUT_KEYBOARD;
-            input.ki.wVk = key;
-            input.ki.dwFlags = flags;
-            inputs.push_back(input);
-        };
         if (shift)
-            add(VK_SHIFT, 0);
-        add(code, 0);
-        add(code, KEYEVENTF_KEYUP);
-        if (shift)
-            add(VK_SHIFT, KEYEVENTF_KEYUP);
-        ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+            sendKey(code, {VK_SHIFT});
+        else
+            sendKey(code);
         host.pump(10);
     }
     void type(const wchar_t* text)
     {
         for (; *text != 0; ++text)
         {
-            INPUT inputs[2] = {};
-            inputs[0].type = inputs[1].type = INPUT_KEYBOARD;
-            inputs[0].ki.wScan = inputs[1].ki.wScan = *text;
-            inputs[0].ki.dwFlags = KEYEVENTF_UNICODE;
-            inputs[1].ki.dwFlags = KEYEVENTF_UNICODE | KEYEVENTF_KEYUP;
-            ::SendInput(2, inputs, sizeof(INPUT));
+            sendCharacter(*text);
             host.pump(5);
         }
     }
