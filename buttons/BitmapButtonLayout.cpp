@@ -1,5 +1,5 @@
 // The bitmap button as numbers: where image, caption, tab and focus mark stand, and what one paint draws.
-#include "BitmapButtonLayout.h"
+#include "oxa/buttons/BitmapButtonLayout.h"
 
 #include <algorithm>
 

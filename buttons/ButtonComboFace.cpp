@@ -1,5 +1,5 @@
 // The face of the button combo as numbers: its two parts, what the mouse makes of them, what one paint draws.
-#include "ButtonComboFace.h"
+#include "oxa/buttons/ButtonComboFace.h"
 
 namespace
 {

@@ -1,5 +1,5 @@
 // The palette of the button combo as numbers: its size, its cells, which cell is under the mouse, its captions.
-#include "ButtonComboPalette.h"
+#include "oxa/buttons/ButtonComboPalette.h"
 
 #include <algorithm>
 

@@ -2,6 +2,7 @@
 #include "CellText.h"
 #include "NativeTree.h"
 #include "RowLayout.h"
+#include "../frame/SavedContext.h"
 
 using treelist::CellPlace;
 using treelist::Columns;
@@ -27,20 +28,6 @@ public:
     }
 
     CFont normal, bold;
-};
-
-/// Puts a device context back as it was.
-class SavedContext
-{
-public:
-    explicit SavedContext(CDC& dc) : m_dc(dc), m_saved(dc.SaveDC()) {}
-    ~SavedContext() { m_dc.RestoreDC(m_saved); }
-    SavedContext(const SavedContext&) = delete;
-    SavedContext& operator=(const SavedContext&) = delete;
-
-private:
-    CDC& m_dc;
-    int m_saved;
 };
 
 /// A node as it is painted.

@@ -1,5 +1,5 @@
 // The bitmap button, against values worked out by hand.
-#include "buttons/BitmapButtonLayout.h"
+#include "oxa/buttons/BitmapButtonLayout.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The face of the button combo, against values worked out by hand.
-#include "buttons/ButtonComboFace.h"
+#include "oxa/buttons/ButtonComboFace.h"
 
 #include <gtest/gtest.h>
 

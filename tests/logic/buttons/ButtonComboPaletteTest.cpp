@@ -1,5 +1,5 @@
 // The palette of the button combo, against values worked out by hand.
-#include "buttons/ButtonComboPalette.h"
+#include "oxa/buttons/ButtonComboPalette.h"
 
 #include <gtest/gtest.h>
 

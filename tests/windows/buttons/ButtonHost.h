@@ -1,0 +1,75 @@
+// A visible parent that writes down what its controls tell it.
+#pragma once
+
+#include <afxwin.h>
+
+#include <functional>
+#include <utility>
+#include <vector>
+
+#include "resource.h"
+#include "support/MessageRecorder.h"
+#include "support/Pixels.h"
+#include "support/RealInput.h"
+
+/// A window at 200, 150 of 400 by 300 pixels, without a caption.
+class ButtonHost : public CWnd
+{
+public:
+    explicit ButtonHost(CRect place = CRect(200, 150, 600, 450))
+    {
+        CreateEx(0, AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_BTNFACE)), L"host",
+                 WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN, place, nullptr, 0);
+        pumpFor(0);
+    }
+    ButtonHost(const ButtonHost&) = delete;
+    ButtonHost& operator=(const ButtonHost&) = delete;
+    ~ButtonHost() override { DestroyWindow(); }
+
+    /// Called at each message of the control, when it is of the kind that the test waits for.
+    std::function<void()> onTold;
+    UINT waitsFor = WM_COMMAND;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == waitsFor && onTold)
+            if (const auto once = std::exchange(onTold, nullptr))
+                once();
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+};
+
+inline CPoint screenPoint(const CWnd& window, CPoint client)
+{
+    window.ClientToScreen(&client);
+    return client;
+}
+
+/// Presses or releases a mouse button where the cursor is, and lets the messages through.
+inline void mouseButton(DWORD event)
+{
+    INPUT input = {};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = event;
+    SendInput(1, &input, sizeof input);
+    pumpFor(10);
+}
+
+/// Moves the cursor to a point of a window, in its client coordinates, and lets the messages through.
+inline void hover(const CWnd& window, CPoint client)
+{
+    moveTo(screenPoint(window, client));
+    pumpFor(10);
+}
+
+inline void press(const CWnd& window, CPoint client)
+{
+    hover(window, client);
+    mouseButton(MOUSEEVENTF_LEFTDOWN);
+}
+
+inline void release()
+{
+    mouseButton(MOUSEEVENTF_LEFTUP);
+}
