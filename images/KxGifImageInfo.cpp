@@ -2,7 +2,6 @@
 #include "oxa/images/KxGifImage.h"
 
 #include <algorithm>
-#include <atomic>
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -57,17 +56,17 @@ void CKxGifImage::SetOffset(long x, long y)
 
 unsigned long CKxGifImage::GetProgress() const
 {
-    return std::atomic_ref(const_cast<std::uint32_t&>(m_Info.nProgress)).load(std::memory_order_relaxed);
+    return m_Info.nProgress;
 }
 
 void CKxGifImage::SetEscape(long escape)
 {
-    std::atomic_ref(m_Info.nEscape).store(static_cast<std::int32_t>(escape), std::memory_order_relaxed);
+    m_Info.nEscape = static_cast<std::int32_t>(escape);
 }
 
 long CKxGifImage::GetEscape() const
 {
-    return std::atomic_ref(const_cast<std::int32_t&>(m_Info.nEscape)).load(std::memory_order_relaxed);
+    return m_Info.nEscape;
 }
 
 void CKxGifImage::SetComment(const char* text)

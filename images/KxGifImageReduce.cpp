@@ -2,7 +2,6 @@
 #include "oxa/images/KxGifImage.h"
 
 #include <algorithm>
-#include <atomic>
 #include <new>
 #include "ColorReduction.h"
 
@@ -63,11 +62,10 @@ bool CKxGifImage::ReduceTo(CKxGifImage& target, bool diffuse)
 try
 {
     ColorReduction reduction(Pixels(), m_Info, target.Pixels(), target.m_Info);
-    std::atomic_ref progress(m_Info.nProgress);
     const std::size_t height = GetHeight();
     for (std::size_t y = 0; y < height && GetEscape() == 0; ++y)
     {
-        progress.store(static_cast<std::uint32_t>(y * 100 / height), std::memory_order_relaxed);
+        m_Info.nProgress = static_cast<std::uint32_t>(y * 100 / height);
         if (diffuse)
             reduction.DiffuseRow(y);
         else
