@@ -1,39 +1,20 @@
 // How long a smart combo box judges a text by fifty formats, against fifty regular expressions (PCRE2, JIT) of the same
 // meaning; and how the time to fill and to sort it grows with the number of values, against the plain steps.
-#define PCRE2_CODE_UNIT_WIDTH 32
-#include <pcre2.h>
-
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <ctime>
 #include <memory>
 #include <random>
 #include <string>
 #include <vector>
+#include "bench/Expression.h"
+#include "bench/Fastest.h"
 #include "support/PlainSmartCombo.h"
 
 namespace
 {
-double ownTime()
-{
-    timespec now{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) * 1e9 + static_cast<double>(now.tv_nsec);
-}
-
-/// The quickest of some rounds, in nanoseconds of this program's own time, so that a busy machine disturbs little.
-template <class Work> double fastest(int rounds, const Work& work)
-{
-    double best = 1e300;
-    for (int round = 0; round < rounds; ++round)
-    {
-        const double start = ownTime();
-        work();
-        best = std::min(best, ownTime() - start);
-    }
-    return best;
-}
+using bench::Expression;
+using bench::fastest;
 
 void require(bool good, const char* what)
 {
@@ -45,8 +26,6 @@ void require(bool good, const char* what)
 }
 
 // ---- Fifty formats
-
-#define LETTER L"[A-Za-wyz\u00e0\u00e9\u00e8\u00e7\u00f9\u00ea\u00f4\u00ef\u00ee]"
 
 struct Rule
 {
@@ -68,37 +47,6 @@ std::vector<Rule> fiftyRules()
     }
     return rules;
 }
-
-class Expression
-{
-public:
-    explicit Expression(const std::wstring& pattern)
-    {
-        int error = 0;
-        PCRE2_SIZE offset = 0;
-        m_code =
-            pcre2_compile(reinterpret_cast<PCRE2_SPTR>(pattern.c_str()), pattern.size(), 0, &error, &offset, nullptr);
-        require(m_code != nullptr, "an expression does not compile");
-        m_match = pcre2_match_data_create_from_pattern(m_code, nullptr);
-    }
-    ~Expression()
-    {
-        pcre2_match_data_free(m_match);
-        pcre2_code_free(m_code);
-    }
-    Expression(const Expression&) = delete;
-    Expression& operator=(const Expression&) = delete;
-
-    void makeQuick() { require(pcre2_jit_compile(m_code, PCRE2_JIT_COMPLETE) == 0, "no JIT"); }
-    bool accepts(const std::wstring& text) const
-    {
-        return pcre2_match(m_code, reinterpret_cast<PCRE2_SPTR>(text.c_str()), text.size(), 0, 0, m_match, nullptr) > 0;
-    }
-
-private:
-    pcre2_code* m_code;
-    pcre2_match_data* m_match = nullptr;
-};
 
 /// Our time for a text against that of the expressions: read anew for the text as our formats are, and kept ready.
 void judge(const std::vector<Rule>& rules, const wchar_t* text)

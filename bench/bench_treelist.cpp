@@ -1,7 +1,6 @@
 // The rows of the tree list: cells of a row of 50 columns against find and replace on the same packed text; sorting 100,000
 // rows against std::stable_sort with a natural-order comparison of the same texts. Ratios of one run.
 #include <algorithm>
-#include <chrono>
 #include <cstdint>
 #include <cstdio>
 #include <cwctype>
@@ -10,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "bench/Fastest.h"
 #include "treelist/RowCells.h"
 #include "treelist/RowComparison.h"
 
@@ -21,23 +21,11 @@ constexpr wchar_t c_separator = 182;
 
 std::size_t g_sum; // keeps the work from being left out
 
-// The quickest of several rounds, in milliseconds.
-template <class Work> double fastest(int rounds, const Work& work)
-{
-    double best = 1e300;
-    for (int round = 0; round < rounds; ++round)
-    {
-        const auto start = std::chrono::steady_clock::now();
-        work();
-        const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - start;
-        best = std::min(best, time.count());
-    }
-    return best;
-}
+using bench::fastest;
 
 double line(const char* name, double ours, double peers)
 {
-    std::printf("%-44s %9.3f ms %9.3f ms   ratio %.3f\n", name, ours, peers, ours / peers);
+    std::printf("%-44s %9.3f ms %9.3f ms   ratio %.3f\n", name, ours / 1e6, peers / 1e6, ours / peers);
     return ours / peers;
 }
 

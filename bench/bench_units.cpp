@@ -1,12 +1,12 @@
 // Reading and printing of unit texts, as a ratio to strtod and snprintf on the same values in the same run.
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <random>
 #include <string>
 #include <vector>
 
+#include "bench/Fastest.h"
 #include "kitrel/KxUnit.h"
 
 namespace
@@ -43,18 +43,15 @@ Samples makeSamples()
 }
 
 // The quickest of many rounds, in nanoseconds for one value.
-template <class Work> double fastest(const Work& work)
+template <class Work> double fastestEach(const Work& work)
 {
-    double best = 1e300;
-    for (int round = 0; round < c_rounds; ++round)
-    {
-        const auto start = std::chrono::steady_clock::now();
-        for (size_t i = 0; i < c_values; ++i)
-            work(i);
-        const std::chrono::duration<double, std::nano> time = std::chrono::steady_clock::now() - start;
-        best = std::min(best, time.count() / static_cast<double>(c_values));
-    }
-    return best;
+    return bench::fastest(c_rounds,
+                          [&]
+                          {
+                              for (size_t i = 0; i < c_values; ++i)
+                                  work(i);
+                          }) /
+           static_cast<double>(c_values);
 }
 
 double line(const char* name, double ours, double peers)
@@ -70,16 +67,16 @@ int main()
     const CKxUnit unit(1, 0, 3, L'.', 1.0, 1);
     Samples samples = makeSamples();
 
-    const double read = fastest([&](size_t i) { g_sum += unit.String2Double(samples.wide[i].data(), nullptr, 1); });
-    const double print = fastest(
+    const double read = fastestEach([&](size_t i) { g_sum += unit.String2Double(samples.wide[i].data(), nullptr, 1); });
+    const double print = fastestEach(
         [&](size_t i)
         {
             wchar_t buffer[CKxUnit::c_nTextSize];
             unit.Double2String(buffer, samples.values[i], 1, L"%.*f", 1, 1, 50);
             g_sum += buffer[0];
         });
-    const double peerRead = fastest([&](size_t i) { g_sum += std::strtod(samples.narrow[i].c_str(), nullptr); });
-    const double peerPrint = fastest(
+    const double peerRead = fastestEach([&](size_t i) { g_sum += std::strtod(samples.narrow[i].c_str(), nullptr); });
+    const double peerPrint = fastestEach(
         [&](size_t i)
         {
             char buffer[64];
