@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "HeaderRules.h"
-#include "Surviving.h"
+#include "../frame/Surviving.h"
 
 using treelist::HeaderItemDrawing;
 using treelist::HeaderItemMeasures;
@@ -118,7 +118,7 @@ void CKxHeaderCtrl::SetSortImage(int column, int image)
     if (!GetItem(column, &item))
         return;
     item.fmt |= HDF_OWNERDRAW;
-    const treelist::Surviving here(*this);
+    const Surviving here(*this);
     SetItem(column, &item);
     if (here)
         Invalidate();

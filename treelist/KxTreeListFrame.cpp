@@ -5,9 +5,7 @@
 #include "HeaderRules.h"
 #include "ScrollRules.h"
 #include "SortWalk.h"
-#include "Surviving.h"
-
-using treelist::Surviving;
+#include "../frame/Surviving.h"
 
 namespace
 {

@@ -3,13 +3,12 @@
 
 #include <algorithm>
 
-#include "Surviving.h"
+#include "../frame/Surviving.h"
 #include "oxa/treelist/KxTreeListFrame.h"
 
 using treelist::Measures;
 using treelist::Range;
 using treelist::ScrollCode;
-using treelist::Surviving;
 
 namespace
 {

@@ -45,7 +45,7 @@ int CKxTreeListViewCtrl::OnCreate(LPCREATESTRUCT create)
 
 void CKxTreeListViewCtrl::OnDestroy()
 {
-    const treelist::Surviving here(*this);
+    const Surviving here(*this);
     MemDeleteAllItems(GetRootItem());
     FreeEditControl();
     if (here)

@@ -7,8 +7,6 @@
 
 #include "kitrel/KxUnitCtrl.h"
 
-using treelist::Surviving;
-
 namespace
 {
 

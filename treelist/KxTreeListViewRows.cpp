@@ -169,7 +169,7 @@ HTREEITEM CKxTreeListViewCtrl::MoveItem(HTREEITEM item, HTREEITEM parent, HTREEI
 HTREEITEM CKxTreeListViewCtrl::MoveItemAndChildren(HTREEITEM item, HTREEITEM parent, HTREEITEM after, bool resetScroll)
 {
     const bool hadChildren = treelist::NativeTree(*this).HasChildren(item);
-    const treelist::Surviving here(*this);
+    const Surviving here(*this);
     const HTREEITEM moved = RowsOf(*this, *m_rows).MoveWithChildren(item, m_itemCount, parent, after);
     if (here && moved != nullptr && hadChildren && resetScroll)
         ResetVertScrollBar();
@@ -188,7 +188,7 @@ BOOL CKxTreeListViewCtrl::DeleteItem(int row)
 
 BOOL CKxTreeListViewCtrl::DeleteAllItems()
 {
-    const treelist::Surviving here(*this);
+    const Surviving here(*this);
     LockWindowUpdate();
     BOOL deleted = FALSE;
     {

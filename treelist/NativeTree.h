@@ -3,7 +3,7 @@
 
 #include <afxcmn.h>
 
-#include "Surviving.h"
+#include "../frame/Surviving.h"
 #include "TreeRows.h"
 #include "oxa/treelist/KxTreeListFrame.h"
 

@@ -5,6 +5,7 @@
 
 #include "UnitText.h"
 #include "UnitValueList.h"
+#include "../frame/HandedOn.h"
 
 static_assert(std::bit_cast<std::uint64_t>(KX_UNIT_NO_VALUE) == std::bit_cast<std::uint64_t>(unitvalues::noValue));
 
@@ -46,56 +47,6 @@ protected:
 private:
     const CComboBox& m_reader;
 };
-
-/// A message on its way from a control to another window, for as long as this object lives. The receiver may send it
-/// back, by a circle of owners or from its handler; the control does not pass it on again meanwhile.
-class Sending
-{
-public:
-    Sending(HWND control, UINT message, WPARAM wParam, LPARAM lParam)
-        : m_control(control), m_message(message), m_wParam(wParam), m_lParam(lParam), m_outer(s_innermost)
-    {
-        s_innermost = this;
-    }
-    ~Sending() { s_innermost = m_outer; }
-    Sending(const Sending&) = delete;
-    Sending& operator=(const Sending&) = delete;
-
-    bool IsRepeated() const
-    {
-        const Sending* one = m_outer;
-        while (one != nullptr && !IsSameAs(*one))
-            one = one->m_outer;
-        return one != nullptr;
-    }
-
-private:
-    bool IsSameAs(const Sending& other) const
-    {
-        return m_control == other.m_control && m_message == other.m_message && m_wParam == other.m_wParam &&
-               m_lParam == other.m_lParam;
-    }
-
-    HWND m_control;
-    UINT m_message;
-    WPARAM m_wParam;
-    LPARAM m_lParam;
-    const Sending* m_outer;
-    static thread_local const Sending* s_innermost;
-};
-
-thread_local const Sending* Sending::s_innermost = nullptr;
-
-/// Sends a message to another window; false when the control did not survive that, and must not be touched any more.
-bool SendAndSurvive(const CWnd& control, CWnd* receiver, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    const HWND window = control.m_hWnd;
-    const Sending sending(window, message, wParam, lParam);
-    if (receiver == nullptr || window == nullptr || sending.IsRepeated())
-        return true;
-    receiver->SendMessage(message, wParam, lParam);
-    return CWnd::FromHandlePermanent(window) == &control;
-}
 
 CWnd* ParentOf(const CWnd& control)
 {
@@ -279,11 +230,6 @@ bool CKxComboBoxUnit::TellFocus()
     return SendAndSurvive(*this, ParentOf(*this), WM_KX_UNIT_FOCUS, 0, GetDlgCtrlID());
 }
 
-bool CKxComboBoxUnit::SendToOwner(UINT message, WPARAM wParam, LPARAM lParam)
-{
-    return SendAndSurvive(*this, GetOwner(), message, wParam, lParam);
-}
-
 BOOL CKxComboBoxUnit::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
     if (message != WM_COMMAND)
@@ -318,7 +264,7 @@ BOOL CKxComboBoxUnit::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, 
 void CKxComboBoxUnit::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags)
 {
     m_nVisibility = 1;
-    SendToOwner(WM_CHAR, nChar, MAKELPARAM(nRepCnt, nFlags));
+    SendToOwner(*this, WM_CHAR, nChar, MAKELPARAM(nRepCnt, nFlags));
 }
 
 void CKxComboBoxUnit::OnDestroy()
@@ -329,13 +275,13 @@ void CKxComboBoxUnit::OnDestroy()
 void CKxComboBoxUnit::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
 {
     m_nVisibility = 1;
-    SendToOwner(WM_KEYDOWN, nChar, MAKELPARAM(nRepCnt, nFlags));
+    SendToOwner(*this, WM_KEYDOWN, nChar, MAKELPARAM(nRepCnt, nFlags));
 }
 
 // Only a synthetic click at the origin is passed on, on purpose.
 void CKxComboBoxUnit::OnLButtonDown(UINT nFlags, CPoint point)
 {
-    if (point.x == 0 && point.y == 0 && !SendToOwner(WM_LBUTTONDOWN, nFlags, MAKELPARAM(point.x, point.y)))
+    if (point.x == 0 && point.y == 0 && !SendToOwner(*this, WM_LBUTTONDOWN, nFlags, MAKELPARAM(point.x, point.y)))
         return;
     CComboBox::OnLButtonDown(nFlags, point);
 }

@@ -137,5 +137,4 @@ protected:
 private:
     unitvalues::Fields Values();
     bool TellFocus();
-    bool SendToOwner(UINT message, WPARAM wParam, LPARAM lParam);
 };

@@ -1,0 +1,134 @@
+// A real window with the controls of a test on it: what it hears, and what it does while it hears.
+#pragma once
+#include <afxwin.h>
+#include <functional>
+#include <ostream>
+#include <string>
+#include <vector>
+#include "support/LeakCounters.h"
+#include "support/RealInput.h"
+
+/// A message that a control handed on. The message's name helps to read a failed comparison.
+struct Heard
+{
+    UINT message;
+    WPARAM wParam;
+    LPARAM lParam;
+    bool operator==(const Heard&) const = default;
+};
+
+inline std::ostream& operator<<(std::ostream& out, const Heard& one)
+{
+    return out << std::hex << "(" << one.message << ", " << one.wParam << ", " << one.lParam << ")" << std::dec;
+}
+
+/// The host: a foreground window that writes down the keys, clicks and private messages that reach it.
+class DropHost : public CWnd
+{
+public:
+    DropHost()
+    {
+        CreateEx(0, AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_BTNFACE)), L"host",
+                 WS_POPUP | WS_CAPTION | WS_VISIBLE, CRect(100, 100, 500, 420), nullptr, 0);
+        SetForegroundWindow();
+        pumpFor(10);
+        heard.clear();
+    }
+    ~DropHost() override { DestroyWindow(); }
+
+    std::vector<Heard> heard;
+    std::function<void(const Heard&)> onHear; ///< runs inside the handler
+    /// The notification code of every WM_COMMAND of a control, in order.
+    std::vector<int> commands;
+    std::function<void(int)> onCommand;
+    HBRUSH colours = nullptr; ///< handed out for every control that asks for a brush
+
+    std::vector<Heard> heardOf(UINT message) const
+    {
+        std::vector<Heard> some;
+        for (const Heard& one : heard)
+            if (one.message == message)
+                some.push_back(one);
+        return some;
+    }
+    /// The characters that were handed on.
+    std::wstring characters() const
+    {
+        std::wstring all;
+        for (const Heard& one : heardOf(WM_CHAR))
+            all += static_cast<wchar_t>(one.wParam);
+        return all;
+    }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_CHAR || message == WM_KEYDOWN || message == WM_SYSCHAR || message == WM_LBUTTONDOWN)
+            return hear({message, wParam, lParam});
+        if (colours != nullptr && message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC)
+            return reflectedOr(message, wParam, lParam);
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override
+    {
+        const int code = HIWORD(wParam);
+        commands.push_back(code);
+        const HWND self = m_hWnd;
+        if (onCommand)
+            onCommand(code);
+        return CWnd::FromHandlePermanent(self) != this || CWnd::OnCommand(wParam, lParam);
+    }
+
+private:
+    LRESULT hear(const Heard& one)
+    {
+        heard.push_back(one);
+        if (onHear)
+            onHear(one);
+        return 0;
+    }
+    /// What a host does that gives its own brush to what has none.
+    LRESULT reflectedOr(UINT message, WPARAM wParam, LPARAM lParam)
+    {
+        CWnd* const control = CWnd::FromHandlePermanent(reinterpret_cast<HWND>(lParam));
+        LRESULT brush = 0;
+        OnWndMsg(message, wParam, lParam, &brush);
+        return control != nullptr ? reinterpret_cast<LRESULT>(colours) : brush;
+    }
+};
+
+inline std::wstring textOf(const CWnd& window)
+{
+    CString text;
+    window.GetWindowText(text);
+    return std::wstring(text);
+}
+
+/// How many handles of each kind there are.
+struct Handles
+{
+    int windows = windowCount(), objects = gdiObjectCount(), kernel = kernelHandleCount(), others = menuAndIconCount();
+    bool operator==(const Handles&) const = default;
+};
+
+inline std::ostream& operator<<(std::ostream& out, const Handles& handles)
+{
+    return out << handles.windows << " windows, " << handles.objects << " drawing objects, " << handles.kernel
+               << " kernel handles, " << handles.others << " menus and icons";
+}
+
+/// The pixels of a window's client area of one colour.
+inline int pixelsOf(HWND window, COLORREF colour)
+{
+    RECT area = {};
+    ::GetClientRect(window, &area);
+    const HDC source = ::GetDC(window);
+    int count = 0;
+    for (int y = 0; y < area.bottom; ++y)
+    {
+        for (int x = 0; x < area.right; ++x)
+            count += ::GetPixel(source, x, y) == colour ? 1 : 0;
+    }
+    ::ReleaseDC(window, source);
+    return count;
+}
