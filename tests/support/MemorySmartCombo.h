@@ -1,4 +1,4 @@
-// A smart combo box over a list in memory, with a record of whom it told, asked and gave the focus.
+// A smart combo box over a combo box in memory or a real one, with a record of whom it told, asked and gave the focus.
 #pragma once
 #include <functional>
 #include <memory>
@@ -6,15 +6,15 @@
 #include "formats/SmartComboButtons.h"
 #include "support/MemoryListBox.h"
 
-/// The window around it.
-class MemorySmartWindow
+/// The window around it. A Box answers as MemoryListBox does.
+template <class Box> class SmartWindowOver
 {
 public:
     /// What ends with the control.
     struct Control
     {
         SmartComboData data;
-        MemoryListBox combo;
+        Box combo;
     };
 
     // ---- What the logic asks of the window
@@ -72,15 +72,18 @@ private:
     }
 };
 
-class MemorySmartCombo : public MemorySmartWindow
+template <class Box> class SmartComboOver : public SmartWindowOver<Box>
 {
+    using Window = SmartWindowOver<Box>;
+
 public:
-    using Logic = SmartComboButtons<MemoryListBox, MemorySmartWindow>;
+    using Logic = SmartComboButtons<Box, Window>;
+    using Window::control;
 
     /// One call of the control: use the object that this answers for one operation only.
     Logic call() { return Logic(control->data, control->combo, *this); }
     SmartComboData& data() { return control->data; }
-    MemoryListBox& combo() { return control->combo; }
+    Box& combo() { return control->combo; }
 
     /// Items of the combo box, the selected one in brackets / the control's own list / the edit field.
     std::wstring shown()
@@ -120,3 +123,5 @@ public:
         }
     }
 };
+
+using MemorySmartCombo = SmartComboOver<MemoryListBox>;

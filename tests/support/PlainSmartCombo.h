@@ -30,7 +30,7 @@ struct PlainSmartCombo
         }
     }
 
-    static void SetStringCombo(MemorySmartCombo& smart, CStringList& values)
+    template <class Smart> static void SetStringCombo(Smart& smart, CStringList& values)
     {
         smart.data().list.RemoveAll();
         smart.combo().ResetContent();
@@ -42,7 +42,7 @@ struct PlainSmartCombo
             smart.call().ResetSelectText();
     }
 
-    static void SortCombo(MemorySmartCombo& smart)
+    template <class Smart> static void SortCombo(Smart& smart)
     {
         const bool selected = smart.combo().GetCurSel() != -1;
         const CString kept = smart.combo().GetEditText();

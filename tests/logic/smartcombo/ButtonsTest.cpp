@@ -39,7 +39,7 @@ TEST_F(SmartCombo, minus_asks_and_deletes)
     };
     for (const auto& row : rows)
     {
-        smart = MemorySmartCombo();
+        smart = TestedSmartCombo();
         remember(L"A B");
         if (row.format != nullptr)
             smart.call().SetFormat(row.format);
@@ -69,7 +69,7 @@ TEST_F(SmartCombo, a_button_of_the_picker_brings_its_format)
     };
     for (const auto& row : rows)
     {
-        smart = MemorySmartCombo();
+        smart = TestedSmartCombo();
         alternatives(L"[(C)1] [(N)2]");
         smart.data().formatText = L"before";
         smart.call().OnButtonSelChanged(row.index);
@@ -87,17 +87,17 @@ TEST_F(SmartCombo, the_formats_of_the_picker_replace_the_alternatives)
     } rows[] = {{0, L"[(C)1]"}, {1, L"[(N)2]"}, {2, L""}, {-1, L""}};
     for (const auto& row : rows)
     {
-        smart = MemorySmartCombo();
+        smart = TestedSmartCombo();
         alternatives(L"old");
         CStringList formats;
-        MemorySmartCombo::fill(formats, L"[(C)1] [(N)2]");
+        TestedSmartCombo::fill(formats, L"[(C)1] [(N)2]");
         EXPECT_TRUE(smart.call().TakePickerFormats(formats, row.selected));
-        EXPECT_EQ(MemorySmartCombo::joined(smart.data().formatList), L"[(C)1] [(N)2]");
+        EXPECT_EQ(TestedSmartCombo::joined(smart.data().formatList), L"[(C)1] [(N)2]");
         EXPECT_EQ(formatText(), row.format);
         EXPECT_EQ(smart.data().selectedFormat, row.selected);
         EXPECT_EQ(smart.data().bitmapMode, BITMAPMODE_PICKER);
         EXPECT_TRUE(smart.call().TakePickerFormats(smart.data().formatList, 1)) << "the control's own list";
-        EXPECT_EQ(MemorySmartCombo::joined(smart.data().formatList), L"[(C)1] [(N)2]");
+        EXPECT_EQ(TestedSmartCombo::joined(smart.data().formatList), L"[(C)1] [(N)2]");
     }
 }
 
@@ -105,7 +105,7 @@ TEST_F(SmartCombo, a_picker_without_formats_changes_nothing)
 {
     alternatives(L"old");
     EXPECT_FALSE(smart.call().TakePickerFormats(CStringList(), 1));
-    EXPECT_EQ(MemorySmartCombo::joined(smart.data().formatList), L"old");
+    EXPECT_EQ(TestedSmartCombo::joined(smart.data().formatList), L"old");
     EXPECT_EQ(smart.data().bitmapMode, BITMAPMODE_NONE);
     EXPECT_EQ(smart.data().selectedFormat, 0);
 }
@@ -114,9 +114,9 @@ TEST_F(SmartCombo, the_formats_of_bitmap_buttons_go_behind_the_alternatives)
 {
     alternatives(L"old");
     CStringList formats;
-    MemorySmartCombo::fill(formats, L"a b");
+    TestedSmartCombo::fill(formats, L"a b");
     smart.call().TakeButtonFormats(formats, BITMAPMODE_DOUBLE);
-    EXPECT_EQ(MemorySmartCombo::joined(smart.data().formatList), L"old a b");
+    EXPECT_EQ(TestedSmartCombo::joined(smart.data().formatList), L"old a b");
     EXPECT_EQ(smart.data().bitmapMode, BITMAPMODE_DOUBLE);
     EXPECT_EQ(formatText(), L"");
 }

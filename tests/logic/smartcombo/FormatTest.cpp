@@ -65,14 +65,14 @@ TEST_F(SmartCombo, filters_are_the_alternative_formats_and_are_appended_when_fet
 {
     alternatives(L"old");
     CStringList filters;
-    MemorySmartCombo::fill(filters, L"[(N)2] [(C)x]");
+    TestedSmartCombo::fill(filters, L"[(N)2] [(C)x]");
     smart.call().SetListFilterString(filters);
-    EXPECT_EQ(MemorySmartCombo::joined(smart.data().formatList), L"[(N)2] [(C)x]");
+    EXPECT_EQ(TestedSmartCombo::joined(smart.data().formatList), L"[(N)2] [(C)x]");
     alternatives(L"[(N)3]");
     CStringList fetched;
-    MemorySmartCombo::fill(fetched, L"mine");
+    TestedSmartCombo::fill(fetched, L"mine");
     smart.call().GetListFilterString(fetched);
-    EXPECT_EQ(MemorySmartCombo::joined(fetched), L"mine [(N)2] [(C)x]");
+    EXPECT_EQ(TestedSmartCombo::joined(fetched), L"mine [(N)2] [(C)x]");
 }
 
 // ---- Alternatives
@@ -99,7 +99,7 @@ TEST_F(SmartCombo, a_text_is_judged_by_the_alternatives_in_order)
     };
     for (const auto& row : rows)
     {
-        smart = MemorySmartCombo();
+        smart = TestedSmartCombo();
         alternatives(row.formats);
         smart.combo().Type(L"typed");
         EXPECT_EQ(smart.call().ValidFreeFormat(row.text, row.apply), row.result) << row.formats;
@@ -146,7 +146,7 @@ TEST_F(SmartCombo, the_picker_follows_the_alternative_that_fits)
     };
     for (const auto& row : rows)
     {
-        smart = MemorySmartCombo();
+        smart = TestedSmartCombo();
         smart.data().bitmapMode = row.mode;
         alternatives(L"[(C)1] [(N)1] [(N)2] [(N)2]");
         EXPECT_EQ(smart.call().ValidFreeFormat(L"12", row.apply), 1);

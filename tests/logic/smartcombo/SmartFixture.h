@@ -4,6 +4,12 @@
 #include "logic/afx/Raises.h"
 #include "support/MemorySmartCombo.h"
 
+// The same tests run over a real combo box where a program names one before.
+#ifndef SMART_COMBO_UNDER_TEST
+#define SMART_COMBO_UNDER_TEST MemoryListBox
+#endif
+using TestedSmartCombo = SmartComboOver<SMART_COMBO_UNDER_TEST>;
+
 class SmartCombo : public testing::Test
 {
 protected:
@@ -12,18 +18,18 @@ protected:
     {
         smart.data().sort = sort;
         CStringList list;
-        MemorySmartCombo::fill(list, values);
+        TestedSmartCombo::fill(list, values);
         smart.call().SetStringCombo(list);
     }
-    void alternatives(const std::wstring& formats) { MemorySmartCombo::fill(smart.data().formatList, formats); }
+    void alternatives(const std::wstring& formats) { TestedSmartCombo::fill(smart.data().formatList, formats); }
     /// Puts characters on the places of the current format, as an owner that follows the typing does.
     void fillFormat(const wchar_t* characters)
     {
         CString text = characters;
         smart.data().format.SetString(text);
     }
-    std::wstring formatText() { return MemorySmartCombo::wide(smart.data().formatText); }
-    std::wstring elements() { return MemorySmartCombo::wide(smart.data().format.CreateEditFormat()); }
+    std::wstring formatText() { return TestedSmartCombo::wide(smart.data().formatText); }
+    std::wstring elements() { return TestedSmartCombo::wide(smart.data().format.CreateEditFormat()); }
 
-    MemorySmartCombo smart;
+    TestedSmartCombo smart;
 };

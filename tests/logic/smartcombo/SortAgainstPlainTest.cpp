@@ -29,11 +29,11 @@ std::wstring lined(const CStringList& list)
 {
     std::wstring all;
     for (POSITION place = list.GetHeadPosition(); place != nullptr;)
-        all += MemorySmartCombo::wide(list.GetNext(place)) + L'\n';
+        all += TestedSmartCombo::wide(list.GetNext(place)) + L'\n';
     return all;
 }
 
-void someState(Random& random, MemorySmartCombo& smart)
+void someState(Random& random, TestedSmartCombo& smart)
 {
     smart.data().sort = static_cast<int>(random() % 2);
     smart.combo().keepSorted = random() % 2 == 0;
@@ -48,8 +48,8 @@ TEST(SmartComboAgainstPlain, filling_gives_the_same_items_values_and_text)
     for (int round = 0; round < 1500; ++round)
     {
         const Random state = random;
-        MemorySmartCombo quick;
-        MemorySmartCombo plain;
+        TestedSmartCombo quick;
+        TestedSmartCombo plain;
         CStringList values;
         someState(random, quick);
         someTexts(random, values);
@@ -67,11 +67,11 @@ TEST(SmartComboAgainstPlain, sorting_gives_the_same_items_values_selection_and_t
     Random random(20240612); // a fixed seed
     for (int round = 0; round < 1500; ++round)
     {
-        MemorySmartCombo quick;
-        MemorySmartCombo plain;
+        TestedSmartCombo quick;
+        TestedSmartCombo plain;
         const Random state = random;
         Random used = random;
-        for (MemorySmartCombo* const one : {&quick, &plain})
+        for (TestedSmartCombo* const one : {&quick, &plain})
         {
             used = state;
             someState(used, *one);
@@ -110,10 +110,10 @@ TEST(SmartComboAgainstPlain, an_element_goes_in_at_the_same_place_from_any_posit
 
 TEST(SmartComboAgainstPlain, a_combo_box_that_refuses_an_item_is_asked_again_for_the_next_equal_one)
 {
-    MemorySmartCombo quick;
-    MemorySmartCombo plain;
+    TestedSmartCombo quick;
+    TestedSmartCombo plain;
     CStringList values;
-    MemorySmartCombo::fill(values, L"b A a B c");
+    TestedSmartCombo::fill(values, L"b A a B c");
     quick.combo().refuseInsertions = true;
     plain.combo().refuseInsertions = true;
     quick.call().SetStringCombo(values);

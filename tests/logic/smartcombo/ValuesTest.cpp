@@ -37,11 +37,11 @@ TEST_F(SmartCombo, values_go_where_sort_sends_them)
     };
     for (const auto& row : rows)
     {
-        MemorySmartCombo other;
+        TestedSmartCombo other;
         other.data().sort = row.sort;
         other.combo().keepSorted = row.comboSorts;
         CStringList values;
-        MemorySmartCombo::fill(values, row.values);
+        TestedSmartCombo::fill(values, row.values);
         for (POSITION place = values.GetHeadPosition(); place != nullptr;)
             other.call().AddStringCombo(values.GetNext(place));
         EXPECT_EQ(other.shown(), row.shown) << row.values;
@@ -174,20 +174,20 @@ TEST_F(SmartCombo, lists_given_may_be_the_controls_own)
     smart.call().SetListFilterString(smart.data().list);
     smart.call().SetListFilterString(smart.data().filterList);
     smart.call().SetListFilterString(smart.data().formatList);
-    EXPECT_EQ(MemorySmartCombo::joined(smart.data().filterList), L"A B");
-    EXPECT_EQ(MemorySmartCombo::joined(smart.data().formatList), L"A B");
+    EXPECT_EQ(TestedSmartCombo::joined(smart.data().filterList), L"A B");
+    EXPECT_EQ(TestedSmartCombo::joined(smart.data().formatList), L"A B");
     smart.call().GetListFilterString(smart.data().filterList);
-    EXPECT_EQ(MemorySmartCombo::joined(smart.data().filterList), L"A B A B");
+    EXPECT_EQ(TestedSmartCombo::joined(smart.data().filterList), L"A B A B");
 }
 
 TEST_F(SmartCombo, fetching_values_replaces_what_the_list_held)
 {
     remember(L"B A");
     CStringList out;
-    MemorySmartCombo::fill(out, L"old");
+    TestedSmartCombo::fill(out, L"old");
     int index = 77;
     smart.call().GetStringCombo(out, index, 0, 1);
-    EXPECT_EQ(MemorySmartCombo::joined(out), L"A B");
+    EXPECT_EQ(TestedSmartCombo::joined(out), L"A B");
     EXPECT_EQ(index, 77) << "nothing was judged";
     EXPECT_EQ(smart.events, L"");
 }
@@ -199,7 +199,7 @@ TEST_F(SmartCombo, fetching_with_judgement_adds_the_text_first)
     CStringList out;
     int index = 77;
     smart.call().GetStringCombo(out, index, 1, 1);
-    EXPECT_EQ(MemorySmartCombo::joined(out), L"A B C");
+    EXPECT_EQ(TestedSmartCombo::joined(out), L"A B C");
     EXPECT_EQ(index, 2);
     EXPECT_EQ(smart.events, L"focus, release +");
 }

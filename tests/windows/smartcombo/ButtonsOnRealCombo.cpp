@@ -1,0 +1,5 @@
+// The tests of logic/smartcombo/ButtonsTest.cpp once more, over a real combo box.
+#include "RealComboBox.h"
+#pragma GCC diagnostic ignored "-Wsubobject-linkage" // the tests are a file of their own elsewhere
+#define SMART_COMBO_UNDER_TEST RealComboBox
+#include "logic/smartcombo/ButtonsTest.cpp"
