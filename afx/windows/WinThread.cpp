@@ -1,6 +1,8 @@
 // A thread's message pump.
 #include <afxwin.h>
 
+#include <vector>
+
 #include "ThreadState.h"
 
 IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
@@ -97,17 +99,44 @@ BOOL CWinThread::DispatchThreadMessage(MSG* message)
     return FALSE;
 }
 
+namespace
+{
+// A window and all in it that has an object asks for the state of its commands.
+void updateCommands(HWND wnd)
+{
+    CWnd* object = CWnd::FromHandlePermanent(wnd);
+    if (object == nullptr || !::IsWindowVisible(wnd))
+        return;
+    AfxCallWndProc(object, wnd, WM_IDLEUPDATECMDUI, TRUE, 0);
+    if (CWnd::FromHandlePermanent(wnd) == object)
+        CWnd::SendMessageToDescendants(wnd, WM_IDLEUPDATECMDUI, TRUE, 0, TRUE, TRUE);
+}
+
+std::vector<HWND> topFrames()
+{
+    std::vector<HWND> frames;
+    const auto add = [](HWND wnd, LPARAM list) -> BOOL
+    {
+        const CWnd* object = CWnd::FromHandlePermanent(wnd);
+        if (object != nullptr && object->IsFrameWnd())
+            reinterpret_cast<std::vector<HWND>*>(list)->push_back(wnd);
+        return TRUE;
+    };
+    ::EnumThreadWindows(::GetCurrentThreadId(), add, reinterpret_cast<LPARAM>(&frames));
+    return frames;
+}
+} // namespace
+
+// The main window first, then the other frames.
 BOOL CWinThread::OnIdle(LONG count)
 {
     if (count <= 0)
     {
-        CWnd* mainWnd = m_pMainWnd;
-        if (mainWnd != nullptr && mainWnd->m_hWnd != nullptr && mainWnd->IsWindowVisible())
-        {
-            AfxCallWndProc(mainWnd, mainWnd->m_hWnd, WM_IDLEUPDATECMDUI, TRUE, 0);
-            if (m_pMainWnd == mainWnd)
-                mainWnd->SendMessageToDescendants(WM_IDLEUPDATECMDUI, TRUE, 0, TRUE, TRUE);
-        }
+        const HWND mainWnd = m_pMainWnd->GetSafeHwnd();
+        updateCommands(mainWnd);
+        for (const HWND frame : topFrames())
+            if (frame != mainWnd)
+                updateCommands(frame);
     }
     else
     {

@@ -42,7 +42,17 @@ constexpr DWORD MLF_NOIDLEMSG = 0x0001;  ///< send no WM_ENTERIDLE to the parent
 constexpr DWORD MLF_NOKICKIDLE = 0x0002; ///< send no WM_KICKIDLE to the window
 constexpr DWORD MLF_SHOWONIDLE = 0x0004; ///< show the window when the loop first idles
 
+/// What WM_SIZEPARENT carries from bar to bar: each takes its strip off `rect`.
+struct AFX_SIZEPARENTPARAMS
+{
+    HDWP hDWP;      ///< null: nothing is moved, the sizes are asked for
+    RECT rect;      ///< what is left of the parent, in client coordinates
+    SIZE sizeTotal; ///< the size of all bars so far
+    BOOL bStretch;  ///< bars fill the whole side
+};
+
 // Messages between the framework's own windows.
+constexpr UINT WM_SIZEPARENT = 0x0361; ///< lParam: AFX_SIZEPARENTPARAMS*
 constexpr UINT WM_IDLEUPDATECMDUI = 0x0363;
 constexpr UINT WM_INITIALUPDATE = 0x0364;
 constexpr UINT WM_COMMANDHELP = 0x0365;
@@ -255,6 +265,18 @@ public:
     virtual BOOL IsFrameWnd() const { return FALSE; }
     /// Whether a dialog is to be centred when it appears.
     virtual BOOL CheckAutoCenter() { return TRUE; }
+
+    // --- bars at the sides
+    enum RepositionFlags
+    {
+        reposDefault = 0,
+        reposQuery = 1, ///< moves nothing: `param` gets the rectangle that would be left
+        reposExtra = 2  ///< keeps the widths in `param` free around the pane
+    };
+    /// Lays out the children with ids from `first` to `last` that handle WM_SIZEPARENT along the sides of `client` (the
+    /// client area, without one); the child `leftOver` gets the rest.
+    void RepositionBars(UINT first, UINT last, UINT leftOver, UINT flag = reposDefault, LPRECT param = nullptr,
+                        LPCRECT client = nullptr, BOOL stretch = TRUE);
 
     // --- messages
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
@@ -490,3 +512,6 @@ KXAFX_API void AfxCancelModes(HWND receiver);
 KXAFX_API void AfxLockTempMaps();
 KXAFX_API BOOL AfxUnlockTempMaps(BOOL deleteTemps = TRUE);
 KXAFX_API BOOL AfxIsDescendant(HWND parent, HWND child);
+/// Moves a child to a place in its parent's client coordinates, together with the others of a layout; nothing happens to
+/// one that stands there already. A handler of WM_SIZEPARENT calls it when the layout's hDWP is not null.
+KXAFX_API void AfxRepositionWindow(AFX_SIZEPARENTPARAMS* layout, HWND wnd, LPCRECT rect);

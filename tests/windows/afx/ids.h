@@ -1,6 +1,9 @@
 /* Ids of the test resources. */
 #define IDD_DATA 501
 #define IDD_MULTILINE 502
+#define IDD_BAR 503
+#define IDD_LISTBAR 504
+#define IDD_SPOILT_BAR 505
 #define IDC_TEXT 1001
 #define IDC_CHECK 1002
 #define IDC_RADIO1 1003
