@@ -6,11 +6,11 @@
 
 #include "oxa/Export.h"
 
-/// Not every platform's decoder checks the offsets of bitmap and icon files; those of other formats are checked by it.
+/// Not every platform's decoder checks the offsets of bitmap, icon and metafiles; those of other formats are checked by it.
 struct OXA_API PictureData
 {
-    /// False when a bitmap, icon or cursor file claims palette entries, pixels or images beyond its end, or none at all.
-    /// True for every other format, and for nothing.
+    /// False when a bitmap, icon or cursor file claims palette entries, pixels or images beyond its end, or none at all, and
+    /// for a damaged metafile (see MetafileCheck). True for every other format, and for nothing.
     static bool isWhole(const unsigned char* data, size_t size);
 
     /// Whether the file is a GIF without a global colour table. Not every decoder stands one whose image has no table

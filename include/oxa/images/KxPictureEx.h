@@ -11,7 +11,9 @@
 /// pixels; proportions are not kept. All functions return 1, or 0 on failure, without message or exception. The bitmap
 /// fits `dc`, belongs to the caller, and replaces (and deletes) one that the `CBitmap` held.
 ///
-/// Damaged bitmap and icon files, whose headers point beyond their end, are refused.
+/// Damaged bitmap and icon files, whose headers point beyond their end, are refused. So are metafiles with a record that is
+/// damaged, of an unknown kind, or draws very much further or thicker than the picture is large: they can end or stop the
+/// platform's player.
 class OXA_API CKxPictureEx
 {
 public:

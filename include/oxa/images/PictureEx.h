@@ -36,7 +36,7 @@ public:
     ///         memory for the canvas. Frames of an animation that the loader refuses are left out.
     ///
     /// A canvas or a frame of more than 16,384 by 16,384 pixels is refused, and so are frames of an animation beyond 2^30
-    /// pixels in all: a few bytes can claim any size.
+    /// pixels in all: a few bytes can claim any size. Damaged bitmaps, icons and metafiles are refused as in CKxPictureEx.
     BOOL Load(HGLOBAL hGlobal, DWORD size);
     /// The same from a file, opened for reading while others may not write. When it cannot be read, the old picture stays.
     BOOL Load(LPCTSTR fileName);
