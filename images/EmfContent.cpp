@@ -141,15 +141,18 @@ bool EmfRecords::clipRegion(const FileBytes& record, std::uint32_t at)
     return (size == 0 && record.longAt(12) == replace) || isSoundRegion(record, at, size);
 }
 
+/// Players have ended over pixels to be copied that have no colours.
 bool EmfRecords::bitmap(const FileBytes& record, std::uint32_t at)
 {
-    return hasNoBitmap(record, at + 4) || hasSoundBitmap(record, at + 4, record.longAt(at));
+    const std::uint32_t usage = record.longAt(at);
+    return hasNoBitmap(record, at + 4) || (usage != BitmapHeader::NoColors && hasSoundBitmap(record, at + 4, usage));
 }
 
 bool EmfRecords::maskedBitmap(const FileBytes& record, std::uint32_t at)
 {
-    constexpr std::uint32_t toMask = 28;
-    return bitmap(record, at) && bitmap(record, at + toMask);
+    const std::uint32_t mask = at + 28;
+    return bitmap(record, at) &&
+           (hasNoBitmap(record, mask + 4) || hasSoundBitmap(record, mask + 4, record.longAt(mask)));
 }
 
 bool EmfRecords::drawnBitmap(const FileBytes& record, std::uint32_t at)

@@ -226,6 +226,17 @@ TEST(EmfRecord, bitmaps_with_their_colours_and_pixels_lie_within)
           bitmapDamages(16, 32)}});
 }
 
+// The platform's player has ended the program over a blended block with the usage of indices.
+TEST(EmfRecord, pixels_to_be_copied_have_colours)
+{
+    for (std::uint32_t usage = 0; usage < 4; ++usage)
+    {
+        MetafileBytes body = bounds();
+        body.longs({0, 0, 2, 1, 0, 0, 0}).zeros(24).longs({0, usage, 108, 40, 148, 8, 2, 1});
+        EXPECT_EQ(isSound(EmfBuilder().record(114, twoPixels(body).bytes()).bytes()), usage < 2) << usage;
+    }
+}
+
 TEST(EmfRecord, a_block_without_a_bitmap_passes)
 {
     const Body fill = bounds().longs({0, 0, 9, 9, 0x00F00021, 0, 0}).zeros(48).bytes();
