@@ -48,6 +48,16 @@ inline void moveTo(POINT point)
     SendInput(1, &input, sizeof input);
 }
 
+/// Presses or releases a button of the mouse where the cursor is (MOUSEEVENTF_LEFTDOWN, ...), and lets the messages through.
+inline void mouseButton(DWORD event)
+{
+    INPUT input = {};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = event;
+    SendInput(1, &input, sizeof input);
+    pumpFor(20);
+}
+
 /// Button down and up in one call, because some controls run a loop of their own in between.
 inline void click(POINT point, bool right = false)
 {

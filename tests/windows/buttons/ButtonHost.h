@@ -46,16 +46,6 @@ inline CPoint screenPoint(const CWnd& window, CPoint client)
     return client;
 }
 
-/// Presses or releases a mouse button where the cursor is, and lets the messages through.
-inline void mouseButton(DWORD event)
-{
-    INPUT input = {};
-    input.type = INPUT_MOUSE;
-    input.mi.dwFlags = event;
-    SendInput(1, &input, sizeof input);
-    pumpFor(10);
-}
-
 /// Moves the cursor to a point of a window, in its client coordinates, and lets the messages through.
 inline void hover(const CWnd& window, CPoint client)
 {
@@ -63,9 +53,12 @@ inline void hover(const CWnd& window, CPoint client)
     pumpFor(10);
 }
 
+/// Presses the left button there, never as the second click of a double click: another button is clicked in between.
 inline void press(const CWnd& window, CPoint client)
 {
     hover(window, client);
+    mouseButton(MOUSEEVENTF_MIDDLEDOWN);
+    mouseButton(MOUSEEVENTF_MIDDLEUP);
     mouseButton(MOUSEEVENTF_LEFTDOWN);
 }
 

@@ -200,22 +200,14 @@ inline POINT middleOfColumn(OpenFrame& frame, int column)
 /// Presses the left button at one point and lets it go at another, with moves between.
 inline void drag(POINT from, POINT to)
 {
-    const auto button = [](DWORD flags)
-    {
-        INPUT input = {};
-        input.type = INPUT_MOUSE;
-        input.mi.dwFlags = flags;
-        SendInput(1, &input, sizeof input);
-        pumpFor(20);
-    };
     moveTo(from);
     pumpFor(20);
-    button(MOUSEEVENTF_LEFTDOWN);
+    mouseButton(MOUSEEVENTF_LEFTDOWN);
     moveTo({(from.x + to.x) / 2, to.y});
     pumpFor(20);
     moveTo(to);
     pumpFor(20);
-    button(MOUSEEVENTF_LEFTUP);
+    mouseButton(MOUSEEVENTF_LEFTUP);
 }
 
 /// The same in one call, for a scroll bar, which runs a loop of its own until the button is up.
