@@ -2,7 +2,8 @@
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 set(OXA_PICTURES_DIR ${CMAKE_BINARY_DIR}/pictures)
 set(OXA_PICTURES_STAMP ${OXA_PICTURES_DIR}/made.stamp)
-file(GLOB_RECURSE oxa_picture_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/resources/pictures/* ${CMAKE_SOURCE_DIR}/siblings/*/resources/pictures/*)
+file(GLOB_RECURSE oxa_picture_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/resources/pictures/* ${CMAKE_SOURCE_DIR}/siblings/*/resources/pictures/*
+    ${CMAKE_SOURCE_DIR}/gallery/pictures/*)
 add_custom_command(
     OUTPUT ${OXA_PICTURES_STAMP}
     COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tools/make_pictures.py ${OXA_PICTURES_DIR}

@@ -1,6 +1,7 @@
 // The list of pages.
 #include "PageAnimation.h"
 #include "PageFormats.h"
+#include "PagePickers.h"
 #include "PagePictures.h"
 #include "PageTips.h"
 #include "PageTree.h"
@@ -15,5 +16,6 @@ std::vector<std::unique_ptr<CPage>> makePages()
     pages.push_back(std::make_unique<CPagePictures>());
     pages.push_back(std::make_unique<CPageAnimation>());
     pages.push_back(std::make_unique<CPageTree>());
+    pages.push_back(std::make_unique<CPagePickers>());
     return pages;
 }

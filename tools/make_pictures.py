@@ -3,8 +3,8 @@
 
     make_pictures.py OUTDIR [--png SCALE]
 
-Reads resources/pictures/*.txt and siblings/kitrel/resources/pictures/*.txt beside this script's parent folder and
-writes one file per recipe, named after it. --png also writes each picture enlarged, to be looked at.
+Reads resources/pictures/*.txt, siblings/kitrel/resources/pictures/*.txt and gallery/pictures/*.txt in this script's
+parent folder and writes one file per recipe, named after it. --png also writes each picture enlarged, to be looked at.
 
 A recipe is a text file; a line that begins with ';' is a comment. Its settings come first:
 
@@ -28,7 +28,7 @@ import sys
 import zlib
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-FOLDERS = ("resources/pictures", "siblings/kitrel/resources/pictures")
+FOLDERS = ("resources/pictures", "siblings/kitrel/resources/pictures", "gallery/pictures")
 
 
 class RecipeError(Exception):
