@@ -1,6 +1,7 @@
 // What the tests of the smart combo box share: a control that is free of format, with values.
 #pragma once
 #include <gtest/gtest.h>
+#include <type_traits>
 #include "logic/afx/Raises.h"
 #include "support/MemorySmartCombo.h"
 
@@ -9,6 +10,9 @@
 #define SMART_COMBO_UNDER_TEST MemoryListBox
 #endif
 using TestedSmartCombo = SmartComboOver<SMART_COMBO_UNDER_TEST>;
+
+/// How many random states are tried: a window for each takes its time.
+constexpr int randomStates = std::is_same_v<SMART_COMBO_UNDER_TEST, MemoryListBox> ? 1500 : 100;
 
 class SmartCombo : public testing::Test
 {

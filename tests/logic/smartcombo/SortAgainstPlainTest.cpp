@@ -45,7 +45,7 @@ void someState(Random& random, TestedSmartCombo& smart)
 TEST(SmartComboAgainstPlain, filling_gives_the_same_items_values_and_text)
 {
     Random random(20240611); // a fixed seed
-    for (int round = 0; round < 1500; ++round)
+    for (int round = 0; round < randomStates; ++round)
     {
         const Random state = random;
         TestedSmartCombo quick;
@@ -65,7 +65,7 @@ TEST(SmartComboAgainstPlain, filling_gives_the_same_items_values_and_text)
 TEST(SmartComboAgainstPlain, sorting_gives_the_same_items_values_selection_and_text)
 {
     Random random(20240612); // a fixed seed
-    for (int round = 0; round < 1500; ++round)
+    for (int round = 0; round < randomStates; ++round)
     {
         TestedSmartCombo quick;
         TestedSmartCombo plain;
