@@ -25,15 +25,19 @@ ComboItemPicture ImageComboItem::Colored() const
     return picture;
 }
 
-std::optional<ComboItemPicture::Image> ImageComboItem::ImageAt(CPoint place) const
+int ImageComboItem::ImageIndex() const
 {
     if (!enabled)
-        return ComboItemPicture::Image{images.overlay, ComboImageLook::Grey, place};
-    if (id == noItem)
+        return images.overlay;
+    return Has(ODS_FOCUS) ? images.selected : images.normal;
+}
+
+std::optional<ComboItemPicture::Image> ImageComboItem::ImageAt(CPoint place) const
+{
+    if (enabled && id == noItem)
         return std::nullopt;
-    if (Has(ODS_FOCUS))
-        return ComboItemPicture::Image{images.selected, ComboImageLook::Selected, place};
-    return ComboItemPicture::Image{images.normal, ComboImageLook::Transparent, place};
+    const ComboImageLook lit = Has(ODS_FOCUS) ? ComboImageLook::Selected : ComboImageLook::Transparent;
+    return ComboItemPicture::Image{ImageIndex(), enabled ? lit : ComboImageLook::Grey, place};
 }
 
 std::optional<ComboItemPicture> ImageComboItem::Picture() const

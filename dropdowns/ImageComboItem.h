@@ -57,8 +57,11 @@ struct OXA_API ImageComboItem
     Images images;
     int indent;
     bool hasImageList;
-    int imageWidth;
+    int imageWidth; ///< of the image with ImageIndex
     int textWidth;
+
+    /// Which image is shown, of an empty field too.
+    int ImageIndex() const;
 
     /// None: nothing is drawn.
     std::optional<ComboItemPicture> Picture() const;

@@ -117,3 +117,16 @@ TEST(ImageComboItem, extreme_numbers_do_no_harm)
     extreme.textWidth = INT_MAX;
     EXPECT_TRUE(extreme.Picture().has_value());
 }
+
+TEST(ImageComboItem, shows_an_image_by_focus_and_use_of_an_empty_field_too)
+{
+    for (const int id : {4, -1})
+    {
+        ImageComboItem one = item(ODS_SELECTED, id);
+        EXPECT_EQ(one.ImageIndex(), 1);
+        one.state = ODS_FOCUS;
+        EXPECT_EQ(one.ImageIndex(), 2);
+        one.enabled = false;
+        EXPECT_EQ(one.ImageIndex(), 3);
+    }
+}

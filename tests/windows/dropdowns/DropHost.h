@@ -5,6 +5,7 @@
 #include <ostream>
 #include <string>
 #include <vector>
+#include "oxa/dropdowns/KxComboColorPicker.h"
 #include "support/LeakCounters.h"
 #include "support/RealInput.h"
 
@@ -38,6 +39,7 @@ public:
 
     std::vector<Heard> heard;
     std::function<void(const Heard&)> onHear; ///< runs inside the handler
+    LRESULT answer = 0;                       ///< to all of them
     /// The notification code of every WM_COMMAND of a control, in order.
     std::vector<int> commands;
     std::function<void(int)> onCommand;
@@ -63,7 +65,8 @@ public:
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        if (message == WM_CHAR || message == WM_KEYDOWN || message == WM_SYSCHAR || message == WM_LBUTTONDOWN)
+        if (message == WM_CHAR || message == WM_KEYDOWN || message == WM_SYSCHAR || message == WM_LBUTTONDOWN ||
+            message == WM_KX_PICK_OTHER_COLOR)
             return hear({message, wParam, lParam});
         if (colours != nullptr && message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC)
             return reflectedOr(message, wParam, lParam);
@@ -83,9 +86,11 @@ private:
     LRESULT hear(const Heard& one)
     {
         heard.push_back(one);
+        const LRESULT answered = answer;
+        const HWND self = m_hWnd;
         if (onHear)
             onHear(one);
-        return 0;
+        return CWnd::FromHandlePermanent(self) == this ? answer : answered;
     }
     /// What a host does that gives its own brush to what has none.
     LRESULT reflectedOr(UINT message, WPARAM wParam, LPARAM lParam)
