@@ -13,16 +13,20 @@ inline double ownTime()
     return static_cast<double>(now.tv_sec) * 1e9 + static_cast<double>(now.tv_nsec);
 }
 
+/// Nanoseconds of this program's own time that a piece of work takes.
+template <class Work> double timeOf(const Work& work)
+{
+    const double start = ownTime();
+    work();
+    return ownTime() - start;
+}
+
 /// The quickest of some rounds, in nanoseconds of this program's own time, so that a busy machine disturbs little.
 template <class Work> double fastest(int rounds, const Work& work)
 {
     double best = 1e300;
     for (int round = 0; round < rounds; ++round)
-    {
-        const double start = ownTime();
-        work();
-        best = std::min(best, ownTime() - start);
-    }
+        best = std::min(best, timeOf(work));
     return best;
 }
 } // namespace bench

@@ -2,18 +2,17 @@
 #include <gif_lib.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <vector>
+#include "bench/Fastest.h"
 #include "bench/GifPictures.h"
 #include "oxa/images/KxGifImage.h"
 
 namespace
 {
 using Bytes = std::vector<std::uint8_t>;
-using Clock = std::chrono::steady_clock;
 
 void require(bool good, const char* what)
 {
@@ -111,10 +110,12 @@ void ourDecode(Bytes& bytes, long frame)
 
 template <class Work> double milliseconds(int repeats, Work work)
 {
-    const auto start = Clock::now();
-    for (int i = 0; i < repeats; ++i)
-        work();
-    return std::chrono::duration<double, std::milli>(Clock::now() - start).count() / repeats;
+    const auto all = [&]
+    {
+        for (int i = 0; i < repeats; ++i)
+            work();
+    };
+    return bench::timeOf(all) / 1e6 / repeats;
 }
 
 const char* g_only = nullptr; // the picture that was asked for

@@ -2,18 +2,17 @@
 #include <gif_lib.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
 #include <vector>
+#include "bench/Fastest.h"
 #include "bench/GifPictures.h"
 #include "oxa/images/KxGifImage.h"
 
 namespace
 {
 using Bytes = std::vector<std::uint8_t>;
-using Clock = std::chrono::steady_clock;
 
 void fill(CKxGifImage& image, const bench::Picture& picture)
 {
@@ -71,13 +70,6 @@ std::size_t ourEncode(CKxGifImage& image)
     return static_cast<std::size_t>(size);
 }
 
-template <class Work> double milliseconds(Work work)
-{
-    const auto start = Clock::now();
-    work();
-    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
-}
-
 /// Each frame is a stream of its own.
 void compare(std::vector<bench::Picture> pictures)
 {
@@ -104,8 +96,8 @@ void compare(std::vector<bench::Picture> pictures)
             for (CKxGifImage& image : images)
                 ourSize += ourEncode(image);
         };
-        const double their = milliseconds(giflib);
-        const double our = milliseconds(library);
+        const double their = bench::timeOf(giflib) / 1e6;
+        const double our = bench::timeOf(library) / 1e6;
         ratios.push_back(their / our);
         ours = std::min(ours, our);
         theirs = std::min(theirs, their);
