@@ -78,7 +78,10 @@ bool CKxGifImage::GifReading::BeginCanvas(unsigned long depth)
     m_background = m_image.m_Info.nTransIndex;
     if (m_way != GifWay::Observed)
         m_image.Destroy();
-    if (!m_picture.Create(m_screen.screenWidth, m_screen.screenHeight, m_score >= 2 ? 24 : depth))
+    // The canvas writes each byte of a row but the padding of true colour.
+    const bool trueColor = m_score >= 2;
+    if (!m_picture.CreateIn(trueColor ? SharedBytes::Allocate : SharedBytes::AllocateUnset, m_screen.screenWidth,
+                            m_screen.screenHeight, trueColor ? 24 : depth))
         return m_screen.screenWidth == 0 || m_screen.screenHeight == 0;
     m_canvas.Begin(m_picture.GetBits(), m_screen.screenWidth, m_screen.screenHeight, m_picture.GetEffWidth(),
                    m_picture.GetBpp());

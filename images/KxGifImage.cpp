@@ -75,6 +75,12 @@ void CKxGifImage::Startup()
 
 void* CKxGifImage::Create(unsigned long w, unsigned long h, unsigned long bpp)
 {
+    return CreateIn(SharedBytes::Allocate, w, h, bpp);
+}
+
+// Header and palette are set, whatever the memory held.
+void* CKxGifImage::CreateIn(SharedBytes (*allocate)(std::size_t), unsigned long w, unsigned long h, unsigned long bpp)
+{
     if (!Destroy() || w == 0 || h == 0)
         return nullptr;
     bpp = roundedDepth(bpp);
@@ -93,10 +99,12 @@ void* CKxGifImage::Create(unsigned long w, unsigned long h, unsigned long bpp)
     m_Head.biClrUsed = bpp == 24 ? 0 : 1U << bpp;
     m_Head.biClrImportant = 0;
     m_Info.nEffWidth = stride;
-    m_pDib = SharedBytes::Allocate(static_cast<std::size_t>(GetSize()));
+    m_pDib = allocate(static_cast<std::size_t>(GetSize()));
     PointAtPixels();
-    if (m_pDib)
-        std::memcpy(m_pDib.Get(), &m_Head, headerSize);
+    if (!m_pDib)
+        return nullptr;
+    std::memcpy(m_pDib.Get(), &m_Head, headerSize);
+    std::memset(m_pDib.Get() + headerSize, 0, GetPaletteSize());
     return m_pDib.Get();
 }
 

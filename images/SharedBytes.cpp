@@ -38,6 +38,11 @@ SharedBytes SharedBytes::Allocate(std::size_t size)
     return Hold(static_cast<unsigned char*>(std::calloc(size, 1)), size, Owner::Holders);
 }
 
+SharedBytes SharedBytes::AllocateUnset(std::size_t size)
+{
+    return Hold(static_cast<unsigned char*>(std::malloc(size)), size, Owner::Holders);
+}
+
 SharedBytes SharedBytes::Borrow(unsigned char* bytes, std::size_t size)
 {
     return Hold(bytes, size, Owner::Lender);

@@ -295,6 +295,7 @@ private:
     bool ReadComment(CKxMemFile& file);
     bool ReadApplication(CKxMemFile& file);
 
+    void* CreateIn(SharedBytes (*allocate)(std::size_t), unsigned long w, unsigned long h, unsigned long bpp);
     void PointAtPixels();
     PixelBlock Pixels() const;
     bool StartReduction(RGBQUAD* palette);

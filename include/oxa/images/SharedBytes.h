@@ -16,6 +16,8 @@ public:
 
     /// `size` bytes of 0, from malloc; empty when the memory cannot be had.
     static SharedBytes Allocate(std::size_t size);
+    /// The same without a value: for a caller who writes every byte before anybody reads one.
+    static SharedBytes AllocateUnset(std::size_t size);
     /// Somebody else's bytes: never freed, never reallocated.
     static SharedBytes Borrow(unsigned char* bytes, std::size_t size);
 
