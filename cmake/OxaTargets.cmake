@@ -41,10 +41,7 @@ function(oxa_subsystem name)
 endfunction()
 
 # What is judged is the library: the tests themselves are compiled in a hurry.
-set(OXA_TEST_OPTIONS)
-if(NOT OXA_SANITIZE)
-    set(OXA_TEST_OPTIONS -O0)
-endif()
+set(OXA_TEST_OPTIONS -O0)
 
 # A test program out of one folder of tests. It is one CTest entry, and leaves its counts in test-results/NAME.xml.
 function(oxa_test_program target folder)
