@@ -1,6 +1,7 @@
 // Walks the records of an enhanced metafile from its header to its end.
 #include <optional>
 
+#include "EmfKinds.h"
 #include "EmfReach.h"
 #include "EmfRecords.h"
 #include "FileBytes.h"
@@ -16,17 +17,22 @@ enum HeaderAt : std::uint32_t
     handlesAt = 56,
 };
 constexpr std::uint32_t signature = 0x464D4520; // " EMF"
+
+EmfKind kindAt(const FileBytes& file, std::uint32_t offset)
+{
+    return static_cast<EmfKind>(file.longAt(offset));
+}
 } // namespace
 
 bool EnhancedMetafile::isOne(const FileBytes& file)
 {
-    return (file.holds(0, 4) && file.longAt(0) == EmfRecords::Header) || file.longAt(signatureAt) == signature;
+    return (file.holds(0, 4) && kindAt(file, 0) == EmfKind::Header) || file.longAt(signatureAt) == signature;
 }
 
 bool EnhancedMetafile::isSound(const FileBytes& file)
 {
     const std::uint32_t size = file.longAt(bytesAt);
-    if (file.longAt(0) != EmfRecords::Header || file.longAt(signatureAt) != signature || !file.holds(0, size) ||
+    if (kindAt(file, 0) != EmfKind::Header || file.longAt(signatureAt) != signature || !file.holds(0, size) ||
         !EmfReach::isPictureSize(file))
     {
         return false;
@@ -35,8 +41,8 @@ bool EnhancedMetafile::isSound(const FileBytes& file)
     std::optional<EmfReach> reach;
     std::uint32_t offset = 0;
     std::uint32_t count = 0;
-    std::uint32_t kind = 0;
-    while (kind != EmfRecords::EndOfFile)
+    auto kind = EmfKind::Header;
+    while (kind != EmfKind::EndOfFile)
     {
         const std::uint32_t length = file.longAt(offset + std::size_t{4});
         if (size - offset < EmfRecords::RecordHead || length < EmfRecords::RecordHead || length % 4 != 0 ||
@@ -45,8 +51,8 @@ bool EnhancedMetafile::isSound(const FileBytes& file)
             return false;
         }
         const FileBytes record = file.part(offset, length);
-        kind = file.longAt(offset);
-        if ((kind == EmfRecords::Header) != (count == 0) || !records.isSound(record))
+        kind = kindAt(file, offset);
+        if ((kind == EmfKind::Header) != (count == 0) || !records.isSound(record))
         {
             return false;
         }

@@ -6,6 +6,8 @@
 #include <cstring>
 #include <limits>
 
+#include "EmfKinds.h"
+
 namespace
 {
 enum HeaderAt : std::uint32_t
@@ -212,71 +214,71 @@ void EmfReach::follow(MetafileReach& reach, Extents extents, const FileBytes& re
 {
     MetafileMapping& now = reach.now();
     const bool setsExtents = extents == Extents::Kept || now.mode >= MetafileMapping::FirstOfOwnExtents;
-    switch (record.longAt(0))
+    switch (static_cast<EmfKind>(record.longAt(0)))
     {
-    case 9:
+    case EmfKind::WindowExtent:
         if (setsExtents)
         {
             setExtents(now, &MetafileAxis::windowExtent, record);
         }
         break;
-    case 10:
+    case EmfKind::WindowOrigin:
         setExtents(now, &MetafileAxis::windowOrigin, record);
         break;
-    case 11:
+    case EmfKind::ViewportExtent:
         if (setsExtents)
         {
             setExtents(now, &MetafileAxis::viewportExtent, record);
         }
         break;
-    case 12:
+    case EmfKind::ViewportOrigin:
         setExtents(now, &MetafileAxis::viewportOrigin, record);
         break;
-    case 17:
+    case EmfKind::MapMode:
         setMode(now, extents, record.longAt(8));
         break;
-    case 31:
+    case EmfKind::ScaleViewport:
         if (setsExtents)
         {
             scaleExtents(now, &MetafileAxis::viewportExtent, record);
         }
         break;
-    case 32:
+    case EmfKind::ScaleWindow:
         if (setsExtents)
         {
             scaleExtents(now, &MetafileAxis::windowExtent, record);
         }
         break;
-    case 33:
+    case EmfKind::Save:
         reach.save();
         break;
-    case 34:
+    case EmfKind::Restore:
         reach.restore(record.signedLongAt(8));
         break;
-    case 35:
+    case EmfKind::SetWorldTransform:
         now.world = worldAt(record, 8);
         break;
-    case 36:
+    case EmfKind::ModifyWorldTransform:
         changeWorld(now, record);
         break;
-    case 37:
+    case EmfKind::SelectObject:
         reach.selectObject(record.longAt(8));
         break;
-    case 39: // the other objects take their place
-    case 49:
-    case 93:
-    case 94:
-    case 99:
-    case 122:
+    case EmfKind::NewBrush: // the other objects take their place
+    case EmfKind::NewPalette:
+    case EmfKind::NewMonoBrush:
+    case EmfKind::NewPatternBrush:
+    case EmfKind::NewColorSpace:
+    case EmfKind::NewWideColorSpace:
         reach.keepObject(record.longAt(8), MetafileReach::Ink::None, 0);
         break;
-    case 38:
+    case EmfKind::NewPen:
         reach.keepObject(record.longAt(8), MetafileReach::Ink::Pen, record.signedLongAt(16));
         break;
-    case 95:
+    case EmfKind::NewExtendedPen:
         reach.keepObject(record.longAt(8), MetafileReach::Ink::Pen, record.longAt(32));
         break;
-    case 82:
+    case EmfKind::NewFont:
         reach.keepObject(record.longAt(8), MetafileReach::Ink::Letter,
                          greater(record.signedLongAt(12), record.signedLongAt(16)));
         break;
@@ -289,66 +291,66 @@ bool EmfReach::drawsWithin(const MetafileReach& reach, const FileBytes& record) 
 {
     const std::uint32_t count = record.longAt(24);
     const std::uint64_t polygonPoints = 32 + std::uint64_t{count} * 4;
-    switch (record.longAt(0))
+    switch (static_cast<EmfKind>(record.longAt(0)))
     {
-    case 2: // all of the shapes of points
-    case 3:
-    case 4:
-    case 5:
-    case 6:
-    case 56:
+    case EmfKind::PolyBezier: // all of the shapes of points
+    case EmfKind::Polygon:
+    case EmfKind::Polyline:
+    case EmfKind::PolyBezierTo:
+    case EmfKind::PolylineTo:
+    case EmfKind::PolyDraw:
         return reach.line() && pointsWithin(reach, record, 28, count);
-    case 85:
-    case 86:
-    case 87:
-    case 88:
-    case 89:
-    case 92:
+    case EmfKind::PolyBezier16:
+    case EmfKind::Polygon16:
+    case EmfKind::Polyline16:
+    case EmfKind::PolyBezierTo16:
+    case EmfKind::PolylineTo16:
+    case EmfKind::PolyDraw16:
         return reach.line() && points16Within(reach, record, 28, count);
-    case 7:
-    case 8:
+    case EmfKind::PolyPolyline:
+    case EmfKind::PolyPolygon:
         return reach.line() && pointsWithin(reach, record, polygonPoints, record.longAt(28));
-    case 90:
-    case 91:
+    case EmfKind::PolyPolyline16:
+    case EmfKind::PolyPolygon16:
         return reach.line() && points16Within(reach, record, polygonPoints, record.longAt(28));
-    case 27:
+    case EmfKind::MoveTo:
         return pointsWithin(reach, record, 8, 1);
-    case 54:
+    case EmfKind::LineTo:
         return reach.line() && pointsWithin(reach, record, 8, 1);
-    case 41:
+    case EmfKind::AngleArc:
         return reach.line() && arcWithin(reach, record);
-    case 42: // round ones
-    case 44:
-    case 45:
-    case 46:
-    case 47:
-    case 55:
+    case EmfKind::Ellipse: // round ones
+    case EmfKind::RoundRectangle:
+    case EmfKind::Arc:
+    case EmfKind::Chord:
+    case EmfKind::Pie:
+    case EmfKind::ArcTo:
         return reach.line() && boxWithin(reach, record, MetafileReach::MostForRound);
-    case 43:
+    case EmfKind::Rectangle:
         return reach.line() && boxWithin(reach, record, MetafileReach::MostForStraight);
-    case 76: // bitmaps
-    case 77:
-    case 78:
-    case 114:
-    case 116:
+    case EmfKind::BitBlock: // bitmaps
+    case EmfKind::StretchedBlock:
+    case EmfKind::MaskedBlock:
+    case EmfKind::BlendedBlock:
+    case EmfKind::TransparentBlock:
         return blockWithin(reach, record, 32);
-    case 80:
+    case EmfKind::BitmapToDevice:
         return blockWithin(reach, record, 40);
-    case 81:
+    case EmfKind::StretchedBitmap:
         return blockWithin(reach, record, 72);
-    case 79:
+    case EmfKind::ParallelogramBlock:
         return pointsWithin(reach, record, 24, 3) && sourceWithin(record);
-    case 118:
+    case EmfKind::Gradient:
         return pointsWithin(reach, record, 36, count, 16);
-    case 63: // paths with an outline
-    case 64:
-    case 66:
+    case EmfKind::StrokeAndFillPath: // paths with an outline
+    case EmfKind::StrokePath:
+    case EmfKind::WidenPath:
         return reach.line();
-    case 83: // texts
-    case 84:
-    case 96:
-    case 97:
-    case 108:
+    case EmfKind::TextOfBytes: // texts
+    case EmfKind::Text:
+    case EmfKind::TextsOfBytes:
+    case EmfKind::Texts:
+    case EmfKind::SmallText:
         return reach.letters();
     default:
         return true;

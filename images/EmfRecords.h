@@ -10,11 +10,6 @@
 class EmfRecords
 {
 public:
-    enum Kind : std::uint32_t
-    {
-        Header = 1,
-        EndOfFile = 14,
-    };
     enum : std::uint32_t
     {
         RecordHead = 8,

@@ -53,7 +53,7 @@ bool isSoundBehindPlace(const FileBytes& file, std::uint64_t wholeSize, WmfReach
         {
             return false;
         }
-        if (record.wordAt(4) == WmfRecords::EndOfFile)
+        if (static_cast<WmfKind>(record.wordAt(4)) == WmfKind::EndOfFile)
         {
             return true;
         }

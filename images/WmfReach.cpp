@@ -5,6 +5,8 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "WmfKinds.h"
+
 namespace
 {
 // The surface is one picture wide and high, and nobody makes one of more pixels for a picture of this kind.
@@ -92,29 +94,29 @@ double greater(std::int32_t a, std::int32_t b)
 
 bool drawsWithin(const MetafileReach& reach, const FileBytes& record)
 {
-    switch (record.wordAt(4))
+    switch (static_cast<WmfKind>(record.wordAt(4)))
     {
-    case 0x0213: // to and from
-    case 0x0214:
+    case WmfKind::LineTo: // to and from
+    case WmfKind::MoveTo:
         return reach.line() &&
                reach.point(record.signedWordAt(8), record.signedWordAt(6), MetafileReach::MostForStraight);
-    case 0x0324: // points
-    case 0x0325:
+    case WmfKind::Polygon: // points
+    case WmfKind::Polyline:
         return reach.line() && pointsWithin(reach, record, 8, record.wordAt(6));
-    case 0x0538:
+    case WmfKind::PolyPolygon:
         return reach.line() && polygonsWithin(reach, record);
-    case 0x0418: // round ones
+    case WmfKind::Ellipse: // round ones
         return reach.line() && boxWithin(reach, record, 6);
-    case 0x061C:
+    case WmfKind::RoundRectangle:
         return reach.line() && boxWithin(reach, record, 10);
-    case 0x0817:
-    case 0x081A:
-    case 0x0830:
+    case WmfKind::Arc:
+    case WmfKind::Pie:
+    case WmfKind::Chord:
         return reach.line() && boxWithin(reach, record, 14);
-    case 0x041B:
+    case WmfKind::Rectangle:
         return reach.line();
-    case 0x0521: // texts
-    case 0x0A32:
+    case WmfKind::Text: // texts
+    case WmfKind::TextWithDistances:
         return reach.letters();
     default:
         return true;
@@ -134,66 +136,66 @@ void WmfReach::follow(const FileBytes& record, std::uint32_t object)
 {
     MetafileMapping& now = m_reach.now();
     const bool ownExtents = now.mode >= MetafileMapping::FirstOfOwnExtents;
-    switch (record.wordAt(4))
+    switch (static_cast<WmfKind>(record.wordAt(4)))
     {
-    case 0x020B:
+    case WmfKind::WindowOrigin:
         set(now, &MetafileAxis::windowOrigin, record);
         break;
-    case 0x020C:
+    case WmfKind::WindowExtent:
         if (ownExtents)
         {
             set(now, &MetafileAxis::windowExtent, record);
         }
         break;
-    case 0x020D:
+    case WmfKind::ViewportOrigin:
         set(now, &MetafileAxis::viewportOrigin, record, mostPixels);
         break;
-    case 0x020E:
+    case WmfKind::ViewportExtent:
         if (ownExtents)
         {
             set(now, &MetafileAxis::viewportExtent, record, mostPixels);
         }
         break;
-    case 0x020F:
+    case WmfKind::OffsetWindowOrigin:
         move(now, &MetafileAxis::windowOrigin, record);
         break;
-    case 0x0211:
+    case WmfKind::OffsetViewportOrigin:
         move(now, &MetafileAxis::viewportOrigin, record, mostPixels);
         break;
-    case 0x0410:
+    case WmfKind::ScaleWindow:
         if (ownExtents)
         {
             scale(now, &MetafileAxis::windowExtent, record);
         }
         break;
-    case 0x0412:
+    case WmfKind::ScaleViewport:
         if (ownExtents)
         {
             scale(now, &MetafileAxis::viewportExtent, record);
         }
         break;
-    case 0x0103:
+    case WmfKind::MapMode:
         setMode(now, record.wordAt(6));
         break;
-    case 0x001E:
+    case WmfKind::Save:
         m_reach.save();
         break;
-    case 0x0127:
+    case WmfKind::Restore:
         m_reach.restore(record.signedWordAt(6));
         break;
-    case 0x012D:
+    case WmfKind::SelectObject:
         m_reach.selectObject(record.wordAt(6));
         break;
-    case 0x02FA:
+    case WmfKind::NewPen:
         m_reach.keepObject(object, MetafileReach::Ink::Pen, record.signedWordAt(8));
         break;
-    case 0x02FB:
+    case WmfKind::NewFont:
         m_reach.keepObject(object, MetafileReach::Ink::Letter, greater(record.signedWordAt(6), record.signedWordAt(8)));
         break;
-    case 0x00F7: // the other objects take their place
-    case 0x0142:
-    case 0x02FC:
-    case 0x06FF:
+    case WmfKind::NewPalette: // the other objects take their place
+    case WmfKind::NewPatternBrush:
+    case WmfKind::NewBrush:
+    case WmfKind::NewRegion:
         m_reach.keepObject(object, MetafileReach::Ink::None, 0);
         break;
     default:

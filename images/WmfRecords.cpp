@@ -44,88 +44,86 @@ std::uint64_t padded(std::uint64_t characters)
 }
 } // namespace
 
-const WmfRecords::Rule* WmfRecords::ruleOf(std::uint32_t kind)
+const WmfRecords::Rule* WmfRecords::ruleOf(WmfKind kind)
 {
     using W = WmfRecords;
     // Not among them: the bitmaps of one kind of device, which no other device can read.
-    static constexpr std::array rules{
-        Rule{EndOfFile, 3, nullptr},
-        Rule{0x001E, 3, &W::save},            // save
-        Rule{0x0035, 3, nullptr},             // realize palette
-        Rule{0x0037, 5, &W::paletteEntries},  // set palette entries
-        Rule{0x00F7, 5, &W::palette},         // palette
-        Rule{0x0102, 4, nullptr},             // background mode
-        Rule{0x0103, 4, nullptr},             // map mode
-        Rule{0x0104, 4, nullptr},             // raster operation
-        Rule{0x0105, 3, nullptr},             // relative or absolute coordinates
-        Rule{0x0106, 4, nullptr},             // polygon fill mode
-        Rule{0x0107, 4, nullptr},             // stretch mode
-        Rule{0x0108, 4, nullptr},             // character distance
-        Rule{0x0127, 4, &W::restore},         // restore
-        Rule{0x012A, 4, &W::object},          // invert region
-        Rule{0x012B, 4, &W::object},          // paint region
-        Rule{0x012C, 4, &W::object},          // select clip region
-        Rule{0x012D, 4, &W::object},          // select
-        Rule{0x012E, 4, nullptr},             // text alignment
-        Rule{0x0139, 4, nullptr},             // resize palette
-        Rule{0x0142, 5, &W::patternBrush},    // pattern brush
-        Rule{0x0149, 4, nullptr},             // layout
-        Rule{0x01F0, 4, &W::deleted},         // delete
-        Rule{0x0201, 5, nullptr},             // background color
-        Rule{0x0209, 5, nullptr},             // text color
-        Rule{0x020A, 5, nullptr},             // text justification
-        Rule{0x020B, 5, nullptr},             // window origin
-        Rule{0x020C, 5, nullptr},             // window extent
-        Rule{0x020D, 5, nullptr},             // viewport origin
-        Rule{0x020E, 5, nullptr},             // viewport extent
-        Rule{0x020F, 5, nullptr},             // offset window origin
-        Rule{0x0211, 5, nullptr},             // offset viewport origin
-        Rule{0x0213, 5, nullptr},             // line to
-        Rule{0x0214, 5, nullptr},             // move to
-        Rule{0x0220, 5, nullptr},             // offset clip region
-        Rule{0x0228, 5, &W::twoObjects},      // fill region
-        Rule{0x0231, 5, nullptr},             // font mapper flags
-        Rule{0x0234, 4, &W::object},          // select palette
-        Rule{0x02FA, 8, &W::newObject},       // pen
-        Rule{0x02FB, 13, &W::font},           // font
-        Rule{0x02FC, 7, &W::brush},           // brush
-        Rule{0x0324, 4, &W::points},          // polygon
-        Rule{0x0325, 4, &W::points},          // polyline
-        Rule{0x0410, 7, nullptr},             // scale window
-        Rule{0x0412, 7, nullptr},             // scale viewport
-        Rule{0x0415, 7, nullptr},             // exclude clip rectangle
-        Rule{0x0416, 7, nullptr},             // intersect clip rectangle
-        Rule{0x0418, 7, nullptr},             // ellipse
-        Rule{0x0419, 7, nullptr},             // flood fill
-        Rule{0x041B, 7, nullptr},             // rectangle
-        Rule{0x041F, 7, nullptr},             // pixel
-        Rule{0x0429, 7, &W::framedRegion},    // frame region
-        Rule{0x0436, 5, &W::paletteEntries},  // animate palette
-        Rule{0x0521, 6, &W::text},            // text
-        Rule{0x0538, 4, &W::polygons},        // poly polygon
-        Rule{0x0548, 8, nullptr},             // flood fill of a kind
-        Rule{0x061C, 9, nullptr},             // round rectangle
-        Rule{0x061D, 9, nullptr},             // pattern block
-        Rule{0x0626, 5, &W::bytes},           // escape
-        Rule{0x06FF, 14, &W::region},         // region
-        Rule{0x0817, 11, nullptr},            // arc
-        Rule{0x081A, 11, nullptr},            // pie
-        Rule{0x0830, 11, nullptr},            // chord
-        Rule{0x0922, 12, &W::block},          // bit block
-        Rule{0x0940, 12, &W::bitmapBlock},    // bit block with a bitmap
-        Rule{0x0A32, 7, &W::extendedText},    // text with distances
-        Rule{0x0B41, 13, &W::stretchedBlock}, // stretched block with a bitmap
-        Rule{0x0D33, 12, &W::bitmapRows},     // bitmap to device
-        Rule{0x0F43, 14, &W::stretchedBitmap} // stretched bitmap
-    };
+    static constexpr std::array rules{Rule{WmfKind::EndOfFile, 3, nullptr},
+                                      Rule{WmfKind::Save, 3, &W::save},
+                                      Rule{WmfKind::RealizePalette, 3, nullptr},
+                                      Rule{WmfKind::SetPaletteEntries, 5, &W::paletteEntries},
+                                      Rule{WmfKind::NewPalette, 5, &W::palette},
+                                      Rule{WmfKind::BackgroundMode, 4, nullptr},
+                                      Rule{WmfKind::MapMode, 4, nullptr},
+                                      Rule{WmfKind::RasterOperation, 4, nullptr},
+                                      Rule{WmfKind::RelativeOrAbsoluteCoordinates, 3, nullptr},
+                                      Rule{WmfKind::PolygonFillMode, 4, nullptr},
+                                      Rule{WmfKind::StretchMode, 4, nullptr},
+                                      Rule{WmfKind::CharacterDistance, 4, nullptr},
+                                      Rule{WmfKind::Restore, 4, &W::restore},
+                                      Rule{WmfKind::InvertRegion, 4, &W::object},
+                                      Rule{WmfKind::PaintRegion, 4, &W::object},
+                                      Rule{WmfKind::SelectClipRegion, 4, &W::object},
+                                      Rule{WmfKind::SelectObject, 4, &W::object},
+                                      Rule{WmfKind::TextAlignment, 4, nullptr},
+                                      Rule{WmfKind::ResizePalette, 4, nullptr},
+                                      Rule{WmfKind::NewPatternBrush, 5, &W::patternBrush},
+                                      Rule{WmfKind::Layout, 4, nullptr},
+                                      Rule{WmfKind::DeleteObject, 4, &W::deleted},
+                                      Rule{WmfKind::BackgroundColor, 5, nullptr},
+                                      Rule{WmfKind::TextColor, 5, nullptr},
+                                      Rule{WmfKind::TextJustification, 5, nullptr},
+                                      Rule{WmfKind::WindowOrigin, 5, nullptr},
+                                      Rule{WmfKind::WindowExtent, 5, nullptr},
+                                      Rule{WmfKind::ViewportOrigin, 5, nullptr},
+                                      Rule{WmfKind::ViewportExtent, 5, nullptr},
+                                      Rule{WmfKind::OffsetWindowOrigin, 5, nullptr},
+                                      Rule{WmfKind::OffsetViewportOrigin, 5, nullptr},
+                                      Rule{WmfKind::LineTo, 5, nullptr},
+                                      Rule{WmfKind::MoveTo, 5, nullptr},
+                                      Rule{WmfKind::OffsetClipRegion, 5, nullptr},
+                                      Rule{WmfKind::FillRegion, 5, &W::twoObjects},
+                                      Rule{WmfKind::FontMapperFlags, 5, nullptr},
+                                      Rule{WmfKind::SelectPalette, 4, &W::object},
+                                      Rule{WmfKind::NewPen, 8, &W::newObject},
+                                      Rule{WmfKind::NewFont, 13, &W::font},
+                                      Rule{WmfKind::NewBrush, 7, &W::brush},
+                                      Rule{WmfKind::Polygon, 4, &W::points},
+                                      Rule{WmfKind::Polyline, 4, &W::points},
+                                      Rule{WmfKind::ScaleWindow, 7, nullptr},
+                                      Rule{WmfKind::ScaleViewport, 7, nullptr},
+                                      Rule{WmfKind::ExcludeClipRectangle, 7, nullptr},
+                                      Rule{WmfKind::IntersectClipRectangle, 7, nullptr},
+                                      Rule{WmfKind::Ellipse, 7, nullptr},
+                                      Rule{WmfKind::FloodFill, 7, nullptr},
+                                      Rule{WmfKind::Rectangle, 7, nullptr},
+                                      Rule{WmfKind::Pixel, 7, nullptr},
+                                      Rule{WmfKind::FrameRegion, 7, &W::framedRegion},
+                                      Rule{WmfKind::AnimatePalette, 5, &W::paletteEntries},
+                                      Rule{WmfKind::Text, 6, &W::text},
+                                      Rule{WmfKind::PolyPolygon, 4, &W::polygons},
+                                      Rule{WmfKind::FloodFillOfAKind, 8, nullptr},
+                                      Rule{WmfKind::RoundRectangle, 9, nullptr},
+                                      Rule{WmfKind::PatternBlock, 9, nullptr},
+                                      Rule{WmfKind::Escape, 5, &W::bytes},
+                                      Rule{WmfKind::NewRegion, 14, &W::region},
+                                      Rule{WmfKind::Arc, 11, nullptr},
+                                      Rule{WmfKind::Pie, 11, nullptr},
+                                      Rule{WmfKind::Chord, 11, nullptr},
+                                      Rule{WmfKind::BitBlock, 12, &W::block},
+                                      Rule{WmfKind::BitBlockWithBitmap, 12, &W::bitmapBlock},
+                                      Rule{WmfKind::TextWithDistances, 7, &W::extendedText},
+                                      Rule{WmfKind::StretchedBlockWithBitmap, 13, &W::stretchedBlock},
+                                      Rule{WmfKind::BitmapToDevice, 12, &W::bitmapRows},
+                                      Rule{WmfKind::StretchedBitmap, 14, &W::stretchedBitmap}};
     const auto* const found = std::lower_bound(rules.begin(), rules.end(), kind,
-                                               [](const Rule& rule, auto value) { return rule.kind < value; });
+                                               [](const Rule& rule, WmfKind value) { return rule.kind < value; });
     return found != rules.end() && found->kind == kind ? &*found : nullptr;
 }
 
 bool WmfRecords::isSound(const FileBytes& record)
 {
-    const Rule* const rule = ruleOf(record.wordAt(4));
+    const Rule* const rule = ruleOf(static_cast<WmfKind>(record.wordAt(4)));
     return rule != nullptr && record.size() >= std::uint64_t{rule->least} * 2 &&
            (rule->check == nullptr || (this->*rule->check)(record));
 }

@@ -6,15 +6,12 @@
 
 #include "FileBytes.h"
 #include "SavedStates.h"
+#include "WmfKinds.h"
 
 /// Judges the records of one file in their order. A record begins with its size in words, 32 bits, and its kind, 16 bits.
 class WmfRecords
 {
 public:
-    enum Kind : std::uint32_t
-    {
-        EndOfFile = 0,
-    };
     enum : std::uint32_t
     {
         RecordHead = 6,
@@ -31,11 +28,11 @@ private:
     using Check = bool (WmfRecords::*)(const FileBytes& record);
     struct Rule
     {
-        std::uint32_t kind;
+        WmfKind kind;
         std::uint32_t least; // words
         Check check;         // null: the size is all there is to check
     };
-    static const Rule* ruleOf(std::uint32_t kind);
+    static const Rule* ruleOf(WmfKind kind);
 
     bool save(const FileBytes& record);
     bool restore(const FileBytes& record);
