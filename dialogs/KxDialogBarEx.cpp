@@ -76,7 +76,7 @@ void disableAll(HWND parent, unsigned int propertyId, unsigned int helpId)
 {
     for (const HWND child : childrenOf(parent))
     {
-        if (::GetParent(child) != parent ||
+        if (::GetAncestor(child, GA_PARENT) != parent ||
             BarRules::IsSpared(static_cast<unsigned int>(::GetDlgCtrlID(child)), propertyId, helpId))
             continue;
         ::EnableWindow(child, FALSE);

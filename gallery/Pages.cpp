@@ -1,5 +1,6 @@
 // The list of pages.
 #include "PageAnimation.h"
+#include "PageBars.h"
 #include "PageFormats.h"
 #include "PagePickers.h"
 #include "PagePictures.h"
@@ -17,5 +18,6 @@ std::vector<std::unique_ptr<CPage>> makePages()
     pages.push_back(std::make_unique<CPageAnimation>());
     pages.push_back(std::make_unique<CPageTree>());
     pages.push_back(std::make_unique<CPagePickers>());
+    pages.push_back(std::make_unique<CPageBars>());
     return pages;
 }

@@ -44,11 +44,13 @@ void AfxRepositionWindow(AFX_SIZEPARENTPARAMS* layout, HWND wnd, LPCRECT rect)
         return;
     const int width = rect->right - rect->left;
     const int height = rect->bottom - rect->top;
+    // Its picture is not taken along: another window of the layout may stand in it by now.
+    constexpr UINT flags = quietly | SWP_NOCOPYBITS;
     HDWP& together = layout->hDWP;
     if (together != nullptr)
-        together = ::DeferWindowPos(together, wnd, nullptr, rect->left, rect->top, width, height, quietly);
+        together = ::DeferWindowPos(together, wnd, nullptr, rect->left, rect->top, width, height, flags);
     if (together == nullptr)
-        ::SetWindowPos(wnd, nullptr, rect->left, rect->top, width, height, quietly);
+        ::SetWindowPos(wnd, nullptr, rect->left, rect->top, width, height, flags);
 }
 
 void CWnd::RepositionBars(UINT first, UINT last, UINT leftOver, UINT flag, LPRECT param, LPCRECT client, BOOL stretch)

@@ -3,6 +3,7 @@
 
 #include <cstring>
 
+#include "ModalOwner.h"
 #include "ThreadState.h"
 
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
@@ -19,29 +20,6 @@ END_MESSAGE_MAP()
 
 namespace
 {
-/// Keeps a window disabled, if it was enabled.
-class Disabled
-{
-public:
-    explicit Disabled(HWND wnd) : m_wnd(wnd != nullptr && ::IsWindowEnabled(wnd) ? wnd : nullptr)
-    {
-        if (m_wnd != nullptr)
-            ::EnableWindow(m_wnd, FALSE);
-    }
-    ~Disabled() { end(); }
-    void end()
-    {
-        if (m_wnd != nullptr)
-            ::EnableWindow(m_wnd, TRUE);
-        m_wnd = nullptr;
-    }
-    Disabled(const Disabled&) = delete;
-    Disabled& operator=(const Disabled&) = delete;
-
-private:
-    HWND m_wnd;
-};
-
 HGLOBAL loadTemplate(LPCTSTR name, HINSTANCE module)
 {
     HRSRC found = ::FindResource(module, name, RT_DIALOG);
@@ -192,7 +170,7 @@ INT_PTR CDialog::DoModal()
     m_nModalResult = -1;
     const HWND parent = PreModal();
     {
-        Disabled disabled(parent);
+        kx::Disabled disabled(parent);
         try
         {
             if (CreateDlgIndirect(dialogTemplate, CWnd::FromHandle(parent), module) &&
@@ -289,19 +267,9 @@ void CDialog::OnCancel()
     EndDialog(IDCANCEL);
 }
 
-// Control notifications stay here; commands go on to the owner and the thread.
 BOOL CDialog::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info)
 {
-    if (CWnd::OnCmdMsg(id, code, extra, info))
-        return TRUE;
-    const bool command = code == CN_COMMAND || code == CN_UPDATE_COMMAND_UI;
-    if (!command || (id & 0x8000U) == 0 || id >= 0xF000)
-        return FALSE;
-    CWnd* owner = GetParent();
-    if (owner != nullptr && owner->OnCmdMsg(id, code, extra, info))
-        return TRUE;
-    CWinThread* thread = AfxGetThread();
-    return thread != nullptr && thread->OnCmdMsg(id, code, extra, info);
+    return CWnd::OnCmdMsg(id, code, extra, info) || kx::routeToOwner(*this, id, code, extra, info);
 }
 
 BOOL CDialog::PreTranslateMessage(MSG* message)

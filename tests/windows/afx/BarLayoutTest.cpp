@@ -1,5 +1,7 @@
 // Where bars and the pane stand in a frame, and what happens to the layout when one of them ends in it.
 #include "BarFixture.h"
+#include "ids.h"
+#include "support/RealInput.h"
 
 namespace
 {
@@ -195,6 +197,31 @@ TEST(BarLayout, a_docked_bar_stands_at_its_side_at_once)
     bars.frame.DockControlBar(&bars.top, AFX_IDW_DOCKBAR_RIGHT);
     EXPECT_EQ(placeOf(bars.top), CRect(280, 0, 300, 200)) << "the first of the children takes its strip first";
     EXPECT_EQ(placeOf(bars.pane), CRect(40, 0, 230, 170));
+}
+
+TEST(BarLayout, a_pane_that_moves_takes_no_picture_of_a_bar_along)
+{
+    CBarFrame frame;
+    CDialogBar bar;
+    CWnd pane;
+    ASSERT_TRUE(bar.Create(&frame, IDD_LISTBAR, CBRS_LEFT, 1));
+    LPCTSTR const white = AfxRegisterWndClass(0, nullptr, static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)));
+    ASSERT_TRUE(pane.Create(white, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &frame, AFX_IDW_PANE_FIRST));
+    frame.EnableDocking(CBRS_ALIGN_ANY);
+    bar.EnableDocking(CBRS_ALIGN_ANY);
+    frame.RecalcLayout();
+    frame.ShowWindow(SW_SHOW);
+    frame.SetForegroundWindow();
+    pumpFor(0);
+    const CRect before = placeOf(pane);
+    frame.DockControlBar(&bar, AFX_IDW_DOCKBAR_RIGHT);
+    pumpFor(0);
+    const CRect after = placeOf(pane);
+    ASSERT_EQ(after.Size(), before.Size());
+    EXPECT_EQ(after.left, 0);
+    const CClientDC dc(&pane);
+    EXPECT_EQ(::GetPixel(dc.GetSafeHdc(), after.Width() - 3, 150), RGB(255, 255, 255));
+    EXPECT_EQ(::GetPixel(dc.GetSafeHdc(), 3, 150), RGB(255, 255, 255));
 }
 
 TEST(BarLayout, a_bar_of_another_window_moves_in)

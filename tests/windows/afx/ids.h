@@ -4,6 +4,9 @@
 #define IDD_BAR 503
 #define IDD_LISTBAR 504
 #define IDD_SPOILT_BAR 505
+#define IDD_PAGE_ONE 506
+#define IDD_PAGE_TWO 507
+#define IDS_PAGE_TITLE 604
 #define IDC_TEXT 1001
 #define IDC_CHECK 1002
 #define IDC_RADIO1 1003

@@ -5,6 +5,7 @@
 #define IDD_EMPTY_BAR 301
 #define IDD_INNER 302
 #define IDD_SMALL_BAR 303
+#define IDD_SHEET_PAGE 304
 #define IDC_LABEL 1001
 #define IDC_EDIT 1002
 #define IDC_LIST 1003
