@@ -8,7 +8,7 @@
 
 #include "kitrel/KxUnitCtrl.h"
 #include "resource.h"
-#include "support/RealInput.h"
+#include "support/HostLoop.h"
 
 inline CKxUnit metres(unsigned int precision = 3)
 {
@@ -43,7 +43,7 @@ public:
 };
 
 /// The span is exchanged with a variable, in SI; the depth with its control alone.
-class CBeamDialog : public CDialog
+class CBeamDialog : public CDialog, public HostLoop
 {
 public:
     explicit CBeamDialog(double initialSpan = 2.0) : spanSI(initialSpan)
@@ -71,34 +71,6 @@ public:
     }
     bool hasFocus(int id) const { return ::GetFocus() == ::GetDlgItem(m_hWnd, id); }
 
-    /// What the program's own loop does with the messages that wait.
-    static void pump(DWORD milliseconds = 0)
-    {
-        const DWORD start = ::GetTickCount();
-        do
-        {
-            MSG message;
-            while (::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE))
-                AfxGetThread()->PumpMessage();
-            if (milliseconds != 0)
-                ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 5, QS_ALLINPUT);
-        } while (::GetTickCount() - start < milliseconds);
-    }
-    /// A real key.
-    static void press(WORD code)
-    {
-        sendKey(code);
-        pump(10);
-    }
-    /// Real characters.
-    static void type(const wchar_t* text)
-    {
-        for (; *text != 0; ++text)
-        {
-            sendCharacter(*text);
-            pump(5);
-        }
-    }
     /// The user goes into the field by the keyboard, and what stood there is replaced.
     void enter(int id, const wchar_t* text)
     {

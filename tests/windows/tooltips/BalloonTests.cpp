@@ -335,7 +335,7 @@ TEST_F(Balloon, hides_after_its_time_when_the_framework_pumps)
     create();
     tip.ShowToolTip(host.m_hWnd);
     tip.setTimer(30);
-    EXPECT_TRUE(pumpFrameworkUntil([this] { return !tip.IsWindowVisible(); }));
+    EXPECT_TRUE(HostLoop::pumpUntil([this] { return !tip.IsWindowVisible(); }));
     EXPECT_FALSE(::KillTimer(tip.m_hWnd, hideTimer));
 }
 

@@ -3,10 +3,9 @@
 
 #include <afxwin.h>
 
-#include <functional>
 
+#include "support/HostLoop.h"
 #include "support/Pixels.h"
-#include "support/RealInput.h"
 
 /// An overlapped window at 200, 150 of 400 by 300 pixels, with a white background and no caption.
 class TipHost : public CWnd
@@ -38,18 +37,4 @@ inline CRect windowRect(const CWnd& window)
     CRect rect;
     window.GetWindowRect(&rect);
     return rect;
-}
-
-/// Runs the framework's message pump until `ok()` holds; false when it does not within five seconds.
-inline bool pumpFrameworkUntil(const std::function<bool()>& ok)
-{
-    const DWORD start = ::GetTickCount();
-    while (!ok() && ::GetTickCount() - start < 5000)
-    {
-        MSG message;
-        while (::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE))
-            AfxGetThread()->PumpMessage();
-        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 5, QS_ALLINPUT);
-    }
-    return ok();
 }

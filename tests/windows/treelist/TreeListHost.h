@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 #include "oxa/treelist/KxTreeListFrame.h"
-#include "support/RealInput.h"
+#include "support/HostLoop.h"
 #include "treelist/RowStore.h"
 
 /// Reaches the members of the tree that only the frame sees otherwise.
@@ -33,7 +33,7 @@ struct Heard
 };
 
 /// A tree list at the top left of a popup window. The host hears 0x435, 0x436 and double clicks.
-class TreeListHost : public CWnd
+class TreeListHost : public CWnd, public HostLoop
 {
 public:
     enum : UINT
@@ -76,35 +76,6 @@ public:
     }
     std::wstring cell(HTREEITEM item, int column) { return std::wstring(tree().GetItemText(item, column)); }
 
-    /// What the host's own loop does with the messages that wait.
-    static void pump(DWORD milliseconds = 0)
-    {
-        const DWORD start = GetTickCount();
-        do
-        {
-            MSG message;
-            while (PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE))
-                AfxGetThread()->PumpMessage();
-            if (milliseconds != 0)
-                MsgWaitForMultipleObjects(0, nullptr, FALSE, 5, QS_ALLINPUT);
-        } while (GetTickCount() - start < milliseconds);
-    }
-
-    /// A real key, through the host's loop.
-    static void press(WORD code)
-    {
-        sendKey(code);
-        pump(10);
-    }
-    /// Real characters, through the host's loop.
-    static void type(const wchar_t* text)
-    {
-        for (; *text != 0; ++text)
-        {
-            sendCharacter(*text);
-            pump(5);
-        }
-    }
     /// Replaces what stands in the open editor.
     void retype(const wchar_t* text)
     {

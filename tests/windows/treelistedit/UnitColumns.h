@@ -17,7 +17,7 @@ constexpr int lengthFamily = 1;
 constexpr int massFamily = 4;
 
 /// A beam of 2.5 m and a column of 4 m; lengths in metres with three decimals, masses in kilograms with two.
-class UnitColumns : public testing::Test
+class UnitColumns : public testing::Test, public HostLoop
 {
 protected:
     UnitColumns()
@@ -61,7 +61,7 @@ protected:
         CPoint point(right - fromRight, row.CenterPoint().y);
         tree.ClientToScreen(&point);
         click(point);
-        host.pump();
+        pump();
     }
     /// Opens the editor of a cell as a user does: the first click selects, the second one edits.
     void edit(HTREEITEM item, int column)
@@ -71,28 +71,11 @@ protected:
         clickCell(item, column);
         ASSERT_NE(host.editor(), nullptr);
     }
-    /// Real keys, by the host's own loop.
-    void press(WORD code, bool shift = false)
-    {
-        if (shift)
-            sendKey(code, {VK_SHIFT});
-        else
-            sendKey(code);
-        host.pump(10);
-    }
-    void type(const wchar_t* text)
-    {
-        for (; *text != 0; ++text)
-        {
-            sendCharacter(*text);
-            host.pump(5);
-        }
-    }
     /// What stands in the editor is replaced by the keyboard.
     void overtype(const wchar_t* text)
     {
         press(VK_HOME);
-        press(VK_END, true);
+        press(VK_END, {VK_SHIFT});
         if (*text == 0)
             press(VK_DELETE);
         type(text);

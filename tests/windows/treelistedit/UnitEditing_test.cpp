@@ -118,7 +118,7 @@ TEST_F(UnitColumns, a_refused_value_keeps_the_editor_when_the_empty_part_is_clic
     CPoint point(client.left + 30, client.bottom - 10);
     tree.ClientToScreen(&point);
     click(point);
-    host.pump();
+    pump();
     EXPECT_EQ(1, AnswerModal::count());
     EXPECT_EQ(L"x", editorText());
     EXPECT_TRUE(editorHasFocus());
@@ -231,7 +231,7 @@ TEST_F(UnitColumns, leaving_the_window_neither_judges_nor_closes)
     overtype(L"abc");
     const AnswerModal answer(IDOK);
     host.SetFocus();
-    host.pump();
+    pump();
     EXPECT_EQ(0, AnswerModal::count());
     EXPECT_EQ(L"abc", editorText());
 }

@@ -9,7 +9,7 @@
 #include <vector>
 #include "frame_dialog_ids.h"
 #include "oxa/treelist/KxTreeListFrame.h"
-#include "support/RealInput.h"
+#include "support/HostLoop.h"
 
 /// Opens what the tree keeps for its frame.
 class OpenTree : public CKxTreeListViewCtrl
@@ -125,7 +125,7 @@ struct HeardByHost
 };
 
 /// The host's dialog, with the frame in a client area of 300 by 200 pixels unless told otherwise.
-class FrameHost : public CDialog
+class FrameHost : public CDialog, public HostLoop
 {
 public:
     explicit FrameHost(UINT dialog = IDD_FRAME_HOST, bool modifiable = false) : frame(std::make_unique<OpenFrame>())
@@ -152,13 +152,6 @@ public:
         for (const HeardByHost& one : heard)
             n += one.message == message && one.code == code ? 1 : 0;
         return n;
-    }
-    /// What the host's own loop does with the messages that wait, PreTranslateMessage included.
-    static void pumpAsHost()
-    {
-        MSG message;
-        while (::PeekMessage(&message, nullptr, 0, 0, PM_NOREMOVE))
-            AfxGetThread()->PumpMessage();
     }
 
     std::unique_ptr<OpenFrame> frame;

@@ -197,19 +197,8 @@ TEST(Keys, escape_comes_to_the_frame_through_the_hosts_loop)
     FrameHost host(IDD_FRAME_HOST, true);
     OpenFrame& frame = oneColumn(host);
     frame.openEditor(CRect(10, 10, 60, 28)).SetFocus();
-    INPUT input = {};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = VK_ESCAPE;
-    SendInput(1, &input, sizeof input);
-    EXPECT_TRUE(waitFor(
-        [&]
-        {
-            FrameHost::pumpAsHost();
-            return frame.edit() == nullptr;
-        }));
-    input.ki.dwFlags = KEYEVENTF_KEYUP;
-    SendInput(1, &input, sizeof input);
-    pumpFor(10);
+    HostLoop::press(VK_ESCAPE);
+    EXPECT_TRUE(HostLoop::pumpUntil([&] { return frame.edit() == nullptr; }));
     EXPECT_TRUE(host.IsWindowVisible()) << "the key was handled: the dialog does not see it";
 }
 

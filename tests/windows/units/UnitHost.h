@@ -8,7 +8,7 @@
 #include <vector>
 #include "kitrel/KxUnit.h"
 #include "oxa/units/KxComboBoxUnit.h"
-#include "support/RealInput.h"
+#include "support/HostLoop.h"
 #include "unit_dialog_ids.h"
 
 inline CKxUnit MetreUnit()
@@ -67,7 +67,7 @@ struct Heard
 };
 
 /// The host's dialog: the first field has the focus, and the messages of its controls are written down.
-class UnitHost : public CDialog
+class UnitHost : public CDialog, public HostLoop
 {
 public:
     UnitHost()
@@ -100,40 +100,6 @@ public:
     {
         GetDlgItem(id)->SetFocus();
         pump();
-    }
-
-    /// What the host's own loop does with the messages that wait.
-    static void pump(DWORD milliseconds = 0)
-    {
-        const DWORD start = GetTickCount();
-        do
-        {
-            MSG message;
-            while (PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE))
-                AfxGetThread()->PumpMessage();
-            if (milliseconds != 0)
-                MsgWaitForMultipleObjects(0, nullptr, FALSE, 5, QS_ALLINPUT);
-        } while (GetTickCount() - start < milliseconds);
-    }
-
-    /// A real key, through the host's loop.
-    static void press(WORD code, bool shift = false)
-    {
-        if (shift)
-            sendKey(code, {VK_SHIFT});
-        else
-            sendKey(code);
-        pump(10);
-    }
-
-    /// Real characters, through the host's loop.
-    static void type(const wchar_t* text)
-    {
-        for (; *text != 0; ++text)
-        {
-            sendCharacter(*text);
-            pump(5);
-        }
     }
 
     /// A notification of a control, as the platform sends it.

@@ -51,7 +51,7 @@ TEST_F(UnitComboPicture, focused_shows_the_selected_text)
 {
     host.focusOn(IDC_METRE);
     host.press(VK_HOME);
-    host.press(VK_END, true);
+    host.press(VK_END, {VK_SHIFT});
     draw();
     EXPECT_GT(pixelsOf(host.metre->editField(), ::GetSysColor(COLOR_HIGHLIGHT)), 100);
     EXPECT_TRUE(saveWindowPng(host.m_hWnd, fileNamed(L"unit-combo-focused.png").c_str()));

@@ -18,7 +18,7 @@ protected:
         host.focusOn(IDC_BEFORE);
         host.press(VK_TAB);
         host.press(VK_HOME);
-        host.press(VK_END, true);
+        host.press(VK_END, {VK_SHIFT});
         host.heard.clear();
         host.type(text);
         EXPECT_EQ(host.count(WM_KX_UNIT_VALIDATED), 0) << "nothing is committed while typing";
