@@ -1,6 +1,7 @@
 // The frame of the tree list: its children, the sort by a click on the header, rows that are found or added, editing keys.
 #include "oxa/treelist/KxTreeListFrame.h"
 
+#include "BusyWindow.h"
 #include "FrameRows.h"
 #include "HeaderRules.h"
 #include "ScrollRules.h"
@@ -81,6 +82,8 @@ BEGIN_MESSAGE_MAP(CKxTreeListFrame, CWnd)
     ON_WM_SIZE()
     // void OnMove(int x, int y)
     ON_WM_MOVE()
+    // void OnDestroy()
+    ON_WM_DESTROY()
     // LRESULT OnTreeListViewLeftClickBefore(WPARAM flags, LPARAM point)
     ON_MESSAGE(WM_KX_TREELIST_CLICK_BEFORE, &CKxTreeListFrame::OnTreeListViewLeftClickBefore)
     // LRESULT OnTreeListViewLeftClickAfter(WPARAM flags, LPARAM point)
@@ -143,6 +146,8 @@ void CKxTreeListFrame::Initialize()
     header.SetSortImageList(&m_tree.m_sortImages);
     m_tree.Create(m_canModifyLabels ? treeStyle | editableTreeStyle : treeStyle, first.tree, this, ID_TREE);
     m_scrollBar.Create(scrollBarStyle, first.bar, this, ID_SCROLL_BAR);
+    treelist::BusyWindow::Watch(header.m_hWnd);
+    treelist::BusyWindow::Watch(m_tree.m_hWnd);
     SortTree(0, 1, m_tree.GetRootItem());
 }
 
@@ -156,6 +161,18 @@ void CKxTreeListFrame::CopyParentFont()
     m_tree.m_headerFont.DeleteObject();
     m_tree.m_headerFont.CreateFontIndirect(&description);
     m_tree.m_header.SetFont(&m_tree.m_headerFont);
+}
+
+void CKxTreeListFrame::OnDestroy()
+{
+    const Surviving here(*this);
+    m_tree.LeaveBusyWindow();
+    if (!here)
+        return;
+    if (treelist::BusyWindow::IsBusy(m_tree.m_header.m_hWnd))
+        treelist::BusyWindow::GiveUp(m_tree.m_header.Detach());
+    if (here)
+        CWnd::OnDestroy();
 }
 
 BOOL CKxTreeListFrame::PreCreateWindow(CREATESTRUCT& cs)

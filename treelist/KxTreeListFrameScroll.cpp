@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "../frame/Surviving.h"
+#include "RecentNode.h"
 #include "oxa/treelist/KxTreeListFrame.h"
 
 using treelist::Measures;
@@ -117,7 +118,8 @@ void CKxTreeListFrame::PutHeader(int width)
 void CKxTreeListFrame::ShowFromTheLeft(const Measures& now)
 {
     m_tree.m_horizontalOffset = 0;
-    m_tree.Invalidate();
+    if (m_tree.m_recent->LetAllBePainted()) // every insertion of a row comes by here
+        m_tree.Invalidate();
     PutHeader(treelist::HeaderWidthAtRest(now));
 }
 
@@ -267,13 +269,25 @@ int CKxTreeListFrame::ScrollLimit()
     return treelist::Difference(m_scrollBar.GetScrollLimit(), 1);
 }
 
+/// Where the thumb is: the message has room for 16 bits of it alone.
+UINT CKxTreeListFrame::ThumbOf(UINT pos)
+{
+    constexpr UINT inMessage = 0xFFFF;
+    SCROLLINFO info = {};
+    info.cbSize = sizeof info;
+    if (!m_scrollBar.GetScrollInfo(&info, SIF_TRACKPOS))
+        return pos;
+    const auto tracked = static_cast<UINT>(info.nTrackPos);
+    return (tracked & inMessage) == pos ? tracked : pos;
+}
+
 void CKxTreeListFrame::OnHScroll(UINT code, UINT pos, CScrollBar* bar)
 {
     const Surviving here(*this);
     if (bar == &m_scrollBar && m_tree.m_hWnd != nullptr)
     {
         const int current = m_scrollBar.GetScrollPos();
-        ScrollTo(current, treelist::ScrollPosition(static_cast<ScrollCode>(code), pos, current, ScrollLimit(),
+        ScrollTo(current, treelist::ScrollPosition(static_cast<ScrollCode>(code), ThumbOf(pos), current, ScrollLimit(),
                                                    clientSize(m_tree).cx));
     }
     if (here)

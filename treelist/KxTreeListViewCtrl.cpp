@@ -1,6 +1,7 @@
 // The tree of the tree list: its life, its columns, and which handler answers which message.
 #include "oxa/treelist/KxTreeListViewCtrl.h"
 
+#include "BusyWindow.h"
 #include "NativeTree.h"
 #include "WidthRules.h"
 
@@ -28,9 +29,15 @@ BEGIN_MESSAGE_MAP(CKxTreeListViewCtrl, CTreeCtrl)
     // LRESULT (WPARAM, LPARAM)
     ON_MESSAGE(0x450, &CKxTreeListViewCtrl::OnEditKillFocus)
     ON_MESSAGE(TVM_DELETEITEM, &CKxTreeListViewCtrl::OnDeleteNode)
+    ON_MESSAGE(TVM_SETITEMA, &CKxTreeListViewCtrl::OnChangeNode)
+    ON_MESSAGE(TVM_SETITEMW, &CKxTreeListViewCtrl::OnChangeNode)
+    ON_MESSAGE(TVM_EXPAND, &CKxTreeListViewCtrl::OnChangeNode)
 END_MESSAGE_MAP()
 
-CKxTreeListViewCtrl::CKxTreeListViewCtrl() : m_rows(std::make_unique<treelist::RowStore>()) {}
+CKxTreeListViewCtrl::CKxTreeListViewCtrl()
+    : m_rows(std::make_unique<treelist::RowStore>()), m_recent(std::make_unique<treelist::RecentNode>())
+{
+}
 
 CKxTreeListViewCtrl::~CKxTreeListViewCtrl()
 {
@@ -48,8 +55,35 @@ void CKxTreeListViewCtrl::OnDestroy()
     const Surviving here(*this);
     MemDeleteAllItems(GetRootItem());
     FreeEditControl();
+    if (!here)
+        return;
+    m_recent->Forget();
+    CTreeCtrl::OnDestroy();
+}
+
+/// For the frame's end: a tree that is telling a host of something goes on with its window behind that.
+void CKxTreeListViewCtrl::LeaveBusyWindow()
+{
+    if (!treelist::BusyWindow::IsBusy(m_hWnd))
+        return;
+    const Surviving here(*this);
+    MemDeleteAllItems(GetRootItem());
+    FreeEditControl();
+    if (!here)
+        return;
+    m_recent->Forget();
+    treelist::BusyWindow::GiveUp(Detach());
+}
+
+/// A node gets another parameter, or goes with what is collapsed. Forgotten twice: a host may ask about it meanwhile.
+LRESULT CKxTreeListViewCtrl::OnChangeNode(WPARAM, LPARAM)
+{
+    const Surviving here(*this);
+    m_recent->Forget();
+    const LRESULT result = Default();
     if (here)
-        CTreeCtrl::OnDestroy();
+        m_recent->Forget();
+    return result;
 }
 
 // ---- Columns

@@ -242,7 +242,7 @@ LRESULT CKxTreeListViewCtrl::OnDeleteNode(WPARAM, LPARAM lParam)
         node = tree.Parent(node);
     if (node != nullptr || deleted == TVI_ROOT || deleted == nullptr)
         m_editedItem = nullptr;
-    return Default();
+    return OnChangeNode(0, lParam);
 }
 
 // ---- Mouse and keys

@@ -118,6 +118,7 @@ void CKxTreeListViewCtrl::DrawItemText(CDC* dc, CString text, CRect rect, int wi
 void CKxTreeListViewCtrl::OnPaint()
 {
     CPaintDC dc(this);
+    m_recent->Painted();
     CRect clip;
     CRect client;
     dc.GetClipBox(&clip);
@@ -130,7 +131,10 @@ void CKxTreeListViewCtrl::OnPaint()
     const COLORREF window = ::GetSysColor(COLOR_WINDOW);
     dc.SetViewportOrg(m_horizontalOffset, 0);
     dc.SetTextColor(window);
+    const Surviving here(*this);
     DefWindowProc(WM_PAINT, reinterpret_cast<WPARAM>(dc.GetSafeHdc()), 0);
+    if (!here)
+        return;
     const Columns columns = ReadColumns(*this);
     dc.FillSolidRect(treelist::StripBehindFirst(client, columns), window);
     clip.OffsetRect(-m_horizontalOffset, 0);

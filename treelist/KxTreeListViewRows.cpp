@@ -15,6 +15,25 @@ Rows RowsOf(const CKxTreeListViewCtrl& tree, treelist::RowStore& store)
     return {treelist::NativeTree(tree), store};
 }
 
+/// Sets one field of a row's record; 0 when there is none.
+template <typename Field> BOOL SetField(Rows rows, HTREEITEM item, Field CKxTreeListRow::*field, Field value)
+{
+    return rows.Rewrite(item,
+                        [field, value](CKxTreeListRow& row)
+                        {
+                            row.*field = value;
+                            return true;
+                        });
+}
+
+/// A new look is shown at once where that is asked for.
+BOOL ShowLook(CWnd& tree, BOOL isSet, BOOL redraw)
+{
+    if (isSet && redraw)
+        tree.Invalidate();
+    return isSet ? 1 : 0;
+}
+
 CKxTreeListRow RowNamed(const wchar_t* text)
 {
     CKxTreeListRow row;
@@ -93,13 +112,7 @@ CString CKxTreeListViewCtrl::FormatValue(double value, int col)
 
 BOOL CKxTreeListViewCtrl::SetItemData(HTREEITEM item, unsigned long data)
 {
-    return RowsOf(*this, *m_rows)
-        .Rewrite(item,
-                 [data](CKxTreeListRow& row)
-                 {
-                     row.data = data;
-                     return true;
-                 });
+    return SetField(RowsOf(*this, *m_rows), item, &CKxTreeListRow::data, std::uint64_t{data});
 }
 
 unsigned __int64 CKxTreeListViewCtrl::GetItemData(HTREEITEM item) const
@@ -110,30 +123,12 @@ unsigned __int64 CKxTreeListViewCtrl::GetItemData(HTREEITEM item) const
 
 BOOL CKxTreeListViewCtrl::SetItemColor(HTREEITEM item, COLORREF color, BOOL redraw)
 {
-    const BOOL set = RowsOf(*this, *m_rows)
-                         .Rewrite(item,
-                                  [color](CKxTreeListRow& row)
-                                  {
-                                      row.color = color;
-                                      return true;
-                                  });
-    if (set && redraw)
-        Invalidate();
-    return set ? 1 : 0;
+    return ShowLook(*this, SetField(RowsOf(*this, *m_rows), item, &CKxTreeListRow::color, color), redraw);
 }
 
 BOOL CKxTreeListViewCtrl::SetItemBold(HTREEITEM item, BOOL bold, BOOL redraw)
 {
-    const BOOL set = RowsOf(*this, *m_rows)
-                         .Rewrite(item,
-                                  [bold](CKxTreeListRow& row)
-                                  {
-                                      row.bold = bold;
-                                      return true;
-                                  });
-    if (set && redraw)
-        Invalidate();
-    return set ? 1 : 0;
+    return ShowLook(*this, SetField(RowsOf(*this, *m_rows), item, &CKxTreeListRow::bold, std::int32_t{bold}), redraw);
 }
 
 // ---- Positions

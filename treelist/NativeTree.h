@@ -4,19 +4,26 @@
 #include <afxcmn.h>
 
 #include "../frame/Surviving.h"
+#include "RecentNode.h"
 #include "TreeRows.h"
 #include "oxa/treelist/KxTreeListFrame.h"
 
 namespace treelist
 {
 
-/// Borrows the control. Its operations are those of the platform's tree, not the control's own.
+/// Borrows the control. Its operations are those of the platform's tree, not the control's own. Once the control has gone, by
+/// what a host did in a notification, it is a tree without nodes that takes nothing.
 class NativeTree
 {
 public:
     using Node = HTREEITEM;
 
-    explicit NativeTree(const CKxTreeListViewCtrl& tree) : m_tree(const_cast<CKxTreeListViewCtrl*>(&tree)) {}
+    explicit NativeTree(const CKxTreeListViewCtrl& tree) : m_tree(const_cast<CKxTreeListViewCtrl*>(&tree)), m_here(tree)
+    {
+    }
+
+    /// Whether the control is still there, with its window.
+    bool Lives() const { return static_cast<bool>(m_here); }
 
     static bool IsNode(Node node)
     {
@@ -32,13 +39,24 @@ public:
 
     LPARAM Param(Node node) const
     {
-        return IsNode(node) ? static_cast<LPARAM>(m_tree->CTreeCtrl::GetItemData(node)) : 0;
+        if (!IsNode(node))
+            return 0;
+        RecentNode& recent = *m_tree->m_recent;
+        if (recent.Is(node))
+            return recent.Param();
+        const auto param = static_cast<LPARAM>(m_tree->CTreeCtrl::GetItemData(node));
+        if (param != 0) // else there may be no such node
+            recent.Remember(node, param, false);
+        return param;
     }
     BOOL SetParam(Node node, LPARAM param)
     {
+        if (m_tree->m_recent->NeedsNothing(node, param))
+            return TRUE;
         if (!IsNode(node) || !m_tree->CTreeCtrl::SetItemData(node, static_cast<DWORD_PTR>(param)))
             return FALSE;
         Redraw(node);
+        m_tree->m_recent->Remember(node, param, true);
         return TRUE;
     }
 
@@ -59,8 +77,11 @@ public:
     /// The label is the empty text.
     Node Insert(const NodeBlock& block, Node parent, Node after)
     {
-        return m_tree->CTreeCtrl::InsertItem(block.mask, L"", block.image, block.selectedImage, block.state,
-                                             block.stateMask, block.param, parent, after);
+        const Node node = m_tree->CTreeCtrl::InsertItem(block.mask, L"", block.image, block.selectedImage, block.state,
+                                                        block.stateMask, block.param, parent, after);
+        if ((block.mask & TVIF_PARAM) != 0 && node != nullptr && Lives())
+            m_tree->m_recent->Remember(node, block.param, true); // the platform paints what it inserts
+        return node;
     }
     BOOL Remove(Node node) { return IsNode(node) && m_tree->CTreeCtrl::DeleteItem(node); }
 
@@ -69,9 +90,8 @@ public:
         CKxTreeListFrame* const frame = Frame();
         if (frame == nullptr)
             return true;
-        const Surviving here(*m_tree);
         frame->ResetScrollBar();
-        return static_cast<bool>(here);
+        return Lives();
     }
 
     template <typename Compare> BOOL Sort(Node parent, const Compare& compare)
@@ -100,6 +120,7 @@ private:
     }
 
     CKxTreeListViewCtrl* m_tree;
+    Surviving m_here;
 };
 
 } // namespace treelist

@@ -54,7 +54,10 @@ concept NodeTree = SiblingTree<Tree> && requires(Tree& tree, const Tree& reading
         } -> std::same_as<typename Tree::Node>; // parent, after
     {
         tree.Remove(node)
-        } -> std::same_as<BOOL>; // with everything below
+        } -> std::same_as<BOOL>; // with everything below; a host may hear of it
+    {
+        reading.Lives()
+        } -> std::same_as<bool>; // false once a host ended the tree; nothing else may be asked then, nor the store
     {
         tree.ReadyForRow()
         } -> std::same_as<bool>; // recalculates the scroll bars; false when the tree did not survive that
@@ -135,7 +138,7 @@ public:
             !ReadWithCopy(node, block))
             return {};
         Delete(node, count);
-        return m_tree.Insert(block, parent, after);
+        return m_tree.Lives() ? m_tree.Insert(block, parent, after) : Node{};
     }
 
     /// Children keep their order. What has no record is left behind and goes with its parent.
@@ -148,7 +151,7 @@ public:
         const Node moved = InsertCopy(node, parent, after);
         if (moved)
             MoveChildren(node, moved, count);
-        return moved;
+        return m_tree.Lives() ? moved : Node{};
     }
 
     /// Destroys the records of the sibling chain from `first` and of everything below. The nodes keep their parameters, which
@@ -254,7 +257,7 @@ private:
     void MoveChildren(Node node, Node moved, int& count)
     {
         std::vector<Moving> open{{node, moved, m_tree.FirstChild(node)}};
-        while (!open.empty())
+        while (!open.empty() && m_tree.Lives())
         {
             Moving& innermost = open.back();
             const Node child = innermost.child;

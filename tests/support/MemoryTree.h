@@ -149,7 +149,14 @@ public:
     {
         return m_nodes->Insert(block, parent, after);
     }
-    BOOL Remove(Node node) { return m_nodes->Remove(node) ? TRUE : FALSE; }
+    BOOL Remove(Node node)
+    {
+        const bool removed = m_nodes->Remove(node);
+        if (onRemove)
+            m_lives = onRemove();
+        return removed ? TRUE : FALSE;
+    }
+    bool Lives() const { return m_lives; }
     bool ReadyForRow() const { return !onReadyForRow || onReadyForRow(); }
     template <typename Compare> BOOL Sort(Node parent, const Compare& compare)
     {
@@ -158,9 +165,11 @@ public:
     }
 
     std::function<bool()> onReadyForRow;
+    std::function<bool()> onRemove; ///< false when the tree does not survive that
 
 private:
     MemoryNodes* m_nodes;
+    bool m_lives = true;
 };
 
 /// The rows over nodes in memory, with the operations that the control has.
@@ -269,12 +278,14 @@ public:
     MemoryNodes nodes;
     treelist::RowStore store;
     std::function<bool()> onReadyForRow;
+    std::function<bool()> onRemove;
 
 private:
     MemoryTree Tree()
     {
         MemoryTree tree(nodes);
         tree.onReadyForRow = onReadyForRow;
+        tree.onRemove = onRemove;
         return tree;
     }
     treelist::TreeRows<MemoryTree> Rows() { return {Tree(), store}; }

@@ -25,7 +25,8 @@ struct Measures;
 ///
 /// Messages that come to the frame's parent: 0x435 and 0x436 of the tree; `WM_CONTEXTMENU` with the `CWnd` of the clicked
 /// window as wParam and 0 as lParam; every `WM_NOTIFY` of the children but the header's clicks and changes; a double click
-/// past the first column. The parent may destroy the frame, and delete it, while it handles one of them.
+/// past the first column. The parent may destroy the frame, and delete it, while it handles one of them, whatever the tree or
+/// the header is doing.
 class OXA_API CKxTreeListFrame : public CWnd
 {
     DECLARE_DYNAMIC(CKxTreeListFrame)
@@ -110,6 +111,7 @@ protected:
     afx_msg void OnContextMenu(CWnd* window, CPoint point);
     afx_msg void OnSize(UINT type, int cx, int cy);
     afx_msg void OnMove(int x, int y);
+    afx_msg void OnDestroy();
     afx_msg LRESULT OnTreeListViewLeftClickBefore(WPARAM flags, LPARAM point);
     afx_msg LRESULT OnTreeListViewLeftClickAfter(WPARAM flags, LPARAM point);
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
@@ -138,6 +140,7 @@ private:
     void ResetVertical();
     void PlaceChildren(bool repaint);
     int ScrollLimit();
+    UINT ThumbOf(UINT pos);
     void ScrollTo(int current, int position);
     void ShiftEdit(int shift);
 

@@ -17,6 +17,8 @@ class CKxTreeListFrame;
 
 namespace treelist
 {
+class NativeTree;
+class RecentNode;
 class RowStore;
 struct Columns;
 struct CellPlace;
@@ -197,6 +199,7 @@ protected:
     afx_msg void OnKillfocus(NMHDR* notify, LRESULT* result);
     afx_msg LRESULT OnEditKillFocus(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnDeleteNode(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnChangeNode(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     friend class CKxTreeListFrame; // fills the header, its font and images, and scrolls
@@ -231,6 +234,10 @@ private:
     void CreateEditor(HTREEITEM item, int column, CRect& rect);
     void ClickRow(HTREEITEM item);
     bool PressButton(CPoint point);
+    void LeaveBusyWindow();
+
+    friend class treelist::NativeTree;
 
     std::unique_ptr<treelist::RowStore> m_rows;
+    std::unique_ptr<treelist::RecentNode> m_recent;
 };

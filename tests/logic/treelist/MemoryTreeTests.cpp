@@ -64,6 +64,20 @@ TEST(TreeRowsMove, a_subtree_that_the_target_refuses_stays)
     EXPECT_EQ(list.FirstChild(a)->parent, a);
 }
 
+TEST(TreeRowsMove, stops_when_the_tree_does_not_survive_a_deletion)
+{
+    MemoryTreeList list;
+    MemoryNode* const a = list.InsertItem(L"a", list.Root(), list.Behind());
+    list.InsertItem(L"b", a, list.Behind());
+    list.InsertItem(L"c", a, list.Behind());
+    MemoryNode* const d = list.InsertItem(L"d", list.Root(), list.Behind());
+    list.onRemove = [] { return false; };
+    EXPECT_EQ(list.MoveItemAndChildren(a, list.Root(), list.Behind(), false), nullptr);
+    EXPECT_EQ(list.NodeCount(), 4) << "a copy of a came, b went, and that was all";
+    EXPECT_EQ(list.MoveItem(d, list.Root(), list.Before()), nullptr);
+    EXPECT_EQ(list.NodeCount(), 3);
+}
+
 TEST(TreeRowsMove, children_without_a_record_go_with_their_old_parent)
 {
     MemoryTreeList list;

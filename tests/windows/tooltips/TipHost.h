@@ -3,7 +3,6 @@
 
 #include <afxwin.h>
 
-
 #include "support/HostLoop.h"
 #include "support/Pixels.h"
 

@@ -161,3 +161,32 @@ TEST(Scrolling, by_dragging_the_thumb_lands_on_a_multiple_of_a_line)
     EXPECT_EQ(0, frame.bar().GetScrollPos() % 6);
     EXPECT_EQ(-frame.bar().GetScrollPos(), frame.offset());
 }
+
+TEST(Scrolling, by_dragging_the_thumb_goes_beyond_what_the_message_can_tell)
+{
+    FrameHost host;
+    OpenFrame& frame = host.usual();
+    frame.addColumns(100, 1000);
+    frame.addRows(1);
+    ASSERT_EQ(99700, frame.upperEnd());
+    CRect bar;
+    frame.bar().GetWindowRect(&bar);
+    const int y = bar.CenterPoint().y;
+    const int arrow = ::GetSystemMetrics(SM_CXHSCROLL);
+    dragThumb({bar.left + arrow + 4, y}, {bar.right - arrow, y});
+    ASSERT_TRUE(waitFor([&] { return frame.bar().GetScrollPos() > 0; }));
+    EXPECT_EQ(99700, frame.bar().GetScrollPos());
+    EXPECT_EQ(-99700, frame.offset());
+}
+
+TEST(Scrolling, to_a_thumb_that_a_message_alone_tells_takes_its_16_bits)
+{
+    FrameHost host;
+    OpenFrame& frame = host.usual();
+    frame.addColumns(100, 1000);
+    frame.addRows(1);
+    scroll(frame, SB_THUMBTRACK, 65535);
+    EXPECT_EQ(65538, frame.bar().GetScrollPos()); // the next multiple of 6
+    scroll(frame, SB_THUMBPOSITION, 0);
+    EXPECT_EQ(0, frame.bar().GetScrollPos());
+}

@@ -1,0 +1,88 @@
+// A platform control's window that must not end while one of its messages is at work.
+#include "BusyWindow.h"
+
+#include <unordered_map>
+
+namespace treelist
+{
+
+namespace
+{
+
+/// What goes on in one window.
+struct Work
+{
+    int depth = 0; ///< messages at work, one within the other
+    bool givenUp = false;
+    bool ending = false;
+    bool ended = false;
+    WNDPROC before = nullptr;   ///< the procedure that was there, which leads to the window's object
+    WNDPROC platform = nullptr; ///< the control's own
+};
+
+/// The watched windows of this thread; a window's messages come to its own thread alone.
+std::unordered_map<HWND, Work>& works()
+{
+    thread_local std::unordered_map<HWND, Work> all;
+    return all;
+}
+
+Work* workOf(HWND window)
+{
+    const auto found = works().find(window);
+    return found == works().end() ? nullptr : &found->second;
+}
+
+LRESULT CALLBACK countMessages(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    Work* const work = workOf(window); // stays where it is
+    if (work == nullptr)
+        return ::DefWindowProc(window, message, wParam, lParam);
+    ++work->depth;
+    const WNDPROC next = work->givenUp ? work->platform : work->before;
+    const LRESULT result = ::CallWindowProc(next, window, message, wParam, lParam);
+    --work->depth;
+    work->ended = work->ended || message == WM_NCDESTROY;
+    if (work->depth > 0)
+        return result;
+    if (work->ended)
+        works().erase(window);
+    else if (work->givenUp && !work->ending)
+    {
+        work->ending = true;
+        ::DestroyWindow(window);
+    }
+    return result;
+}
+
+} // namespace
+
+void BusyWindow::Watch(HWND window)
+{
+    if (window == nullptr || workOf(window) != nullptr)
+        return;
+    Work& work = works()[window];
+    work.platform = reinterpret_cast<WNDPROC>(::GetClassLongPtr(window, GCLP_WNDPROC));
+    work.before =
+        reinterpret_cast<WNDPROC>(::SetWindowLongPtr(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&countMessages)));
+}
+
+bool BusyWindow::IsBusy(HWND window)
+{
+    const Work* const work = workOf(window);
+    return work != nullptr && work->depth > 0;
+}
+
+void BusyWindow::GiveUp(HWND window)
+{
+    Work* const work = workOf(window);
+    if (work == nullptr)
+        return;
+    work->givenUp = true;
+    if (::GetCapture() == window)
+        ::ReleaseCapture();
+    ::ShowWindow(window, SW_HIDE);
+    ::SetParent(window, HWND_MESSAGE);
+}
+
+} // namespace treelist

@@ -1,0 +1,22 @@
+// A platform control's window that must not end while one of its messages is at work.
+#pragma once
+
+#include <afxwin.h>
+
+namespace treelist
+{
+
+/// A control tells of what it does in the middle of doing it, and goes on behind that with the data of its window. When a host
+/// ends the frame meanwhile, the window is given up instead of destroyed, and ends behind its last message.
+struct BusyWindow
+{
+    /// Counts the messages of the window from now on.
+    static void Watch(HWND window);
+    /// Whether one of them is at work.
+    static bool IsBusy(HWND window);
+    /// Takes a busy window off the screen and away from its parent; it ends when the message is over. No object may be attached
+    /// to it any more.
+    static void GiveUp(HWND window);
+};
+
+} // namespace treelist
