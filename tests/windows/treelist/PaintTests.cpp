@@ -211,6 +211,43 @@ TEST_F(TreeListPaint, a_row_has_its_own_text_colour_unless_it_is_selected)
     EXPECT_EQ(InkIn(a, 0, 320, red).count, 0);
 }
 
+TEST_F(TreeListPaint, a_selected_bold_row_is_bold_in_the_colour_for_it_and_the_next_row_is_not)
+{
+    AddColumns();
+    HTREEITEM const a = AddRow(L"MM", L"MMM", L"MM");
+    HTREEITEM const b = AddRow(L"MM", L"MMM", L"MM");
+    tree.SelectItem(a);
+    Draw();
+    const int plain = InkIn(a, 120, 220, highlightText).count;
+    const int below = InkIn(b, 120, 220, windowText).count;
+    EXPECT_TRUE(tree.SetItemBold(a, TRUE, TRUE));
+    EXPECT_TRUE(tree.SetItemColor(a, red, TRUE));
+    Draw();
+    EXPECT_GT(InkIn(a, 120, 220, highlightText).count, plain + 3);
+    EXPECT_EQ(InkIn(a, 0, 320, red).count, 0);
+    EXPECT_EQ(InkIn(b, 120, 220, windowText).count, below);
+}
+
+TEST_F(TreeListPaint, a_text_that_is_too_long_is_cut_in_every_alignment)
+{
+    tree.InsertColumn(0, L"Name", 0, 120, 0);
+    for (const int format : {0, 1, 2})
+        tree.InsertColumn(format + 1, L"Long", format, 60, 0);
+    HTREEITEM const a = host.add(L"a");
+    for (int column = 1; column <= 3; ++column)
+        tree.SetItemText(a, column, L"MMMMMMMMMMMMMMMM");
+    Draw();
+    const int ink = InkIn(a, 120, 180, windowText).count;
+    ASSERT_GT(ink, 10);
+    for (int column = 1; column <= 3; ++column)
+    {
+        const Ink cell = InkIn(a, 60 + 60 * column, 120 + 60 * column, windowText);
+        EXPECT_EQ(cell.count, ink) << column;
+        EXPECT_LE(cell.bounds.right, 120 + 60 * column - 4) << column << ": four pixels stay free";
+    }
+    EXPECT_EQ(InkIn(a, 300, 400, windowText).count, 0);
+}
+
 TEST_F(TreeListPaint, a_changed_cell_is_painted_without_being_asked)
 {
     AddColumns();
