@@ -16,7 +16,7 @@ constexpr std::array ownMessages = {
     Name{0xA5B, L"WM_KX_UNIT_FOCUS"},           Name{0xA5C, L"WM_KX_UNIT_VALIDATED"},
     Name{0x405, L"WM_KX_BUTTONCOMBO_SELECT"},   Name{0x433, L"WM_KX_TREELIST_CLICK_BEFORE"},
     Name{0x434, L"WM_KX_TREELIST_CLICK_AFTER"}, Name{0x435, L"WM_KX_TREELIST_EDIT_BEFORE"},
-    Name{0x436, L"WM_KX_TREELIST_EDIT_AFTER"},
+    Name{0x40E, L"WM_KX_PICK_OTHER_COLOR"},     Name{0x436, L"WM_KX_TREELIST_EDIT_AFTER"},
 };
 
 constexpr std::array comboCodes = {

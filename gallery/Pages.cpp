@@ -1,6 +1,7 @@
 // The list of pages.
 #include "PageAnimation.h"
 #include "PageBars.h"
+#include "PageCombos.h"
 #include "PageFormats.h"
 #include "PagePickers.h"
 #include "PagePictures.h"
@@ -19,5 +20,6 @@ std::vector<std::unique_ptr<CPage>> makePages()
     pages.push_back(std::make_unique<CPageTree>());
     pages.push_back(std::make_unique<CPagePickers>());
     pages.push_back(std::make_unique<CPageBars>());
+    pages.push_back(std::make_unique<CPageCombos>());
     return pages;
 }
