@@ -17,6 +17,8 @@ constexpr std::array ownMessages = {
     Name{0x405, L"WM_KX_BUTTONCOMBO_SELECT"},   Name{0x433, L"WM_KX_TREELIST_CLICK_BEFORE"},
     Name{0x434, L"WM_KX_TREELIST_CLICK_AFTER"}, Name{0x435, L"WM_KX_TREELIST_EDIT_BEFORE"},
     Name{0x40E, L"WM_KX_PICK_OTHER_COLOR"},     Name{0x436, L"WM_KX_TREELIST_EDIT_AFTER"},
+    Name{0x406, L"WM_KX_SMART_ADDING"},         Name{0x407, L"WM_KX_SMART_SELCHANGE"},
+    Name{0x408, L"WM_KX_SMART_SELENDOK"},       Name{0x409, L"WM_KX_SMART_EDITUPDATE"},
 };
 
 constexpr std::array comboCodes = {
