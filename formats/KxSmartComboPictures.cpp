@@ -124,7 +124,9 @@ void CKxSmartComboBox::ForEachPicture(const std::function<void(CWnd&)>& use)
 void CKxSmartComboBox::OnPaint()
 {
     const Surviving here(*this);
-    CPaintDC(this);
+    {
+        const CPaintDC paintedElsewhere(this);
+    }
     if (m_data.showButtons != 0)
         DrawComboBox();
     if (here && m_data.bitmapMode == BITMAPMODE_PICKER)
