@@ -5,6 +5,7 @@
 #include "PageFormats.h"
 #include "PagePickers.h"
 #include "PagePictures.h"
+#include "PageSmart.h"
 #include "PageTips.h"
 #include "PageTree.h"
 #include "PageUnits.h"
@@ -21,5 +22,6 @@ std::vector<std::unique_ptr<CPage>> makePages()
     pages.push_back(std::make_unique<CPagePickers>());
     pages.push_back(std::make_unique<CPageBars>());
     pages.push_back(std::make_unique<CPageCombos>());
+    pages.push_back(std::make_unique<CPageSmart>());
     return pages;
 }
