@@ -485,7 +485,7 @@ TEST_F(BitmapButton, toggles_its_focus_mark_by_the_states)
     };
     for (const auto& row : rows)
     {
-        Pixels(buttonSize, [&](HDC dc) { paintInto(dc, ODA_DRAWENTIRE, row.lastState); });
+        const Pixels before(buttonSize, [&](HDC dc) { paintInto(dc, ODA_DRAWENTIRE, row.lastState); });
         const Pixels now(buttonSize, [&](HDC dc) { paintInto(dc, row.action, row.state); });
         const auto drawn = [&](const Pen& pen)
         {
