@@ -65,8 +65,8 @@ public:
     }
     int ExitInstance() override
     {
-        const int result = CWinApp::ExitInstance();
-        return m_status != 0 ? m_status : result;
+        CWinApp::ExitInstance(); // answers with the last message's parameter, which need not be a quit message's here
+        return m_status;
     }
 
 private:
