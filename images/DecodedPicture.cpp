@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "GlobalBlock.h"
+#include "MetafileCheck.h"
 #include "PictureData.h"
 
 namespace
@@ -103,6 +104,41 @@ private:
     size_t m_size = 0;
 };
 
+/// The records that a metafile's picture would play; empty when they cannot be had.
+std::vector<unsigned char> recordsOf(IPicture& picture, SHORT kind)
+{
+    OLE_HANDLE number = 0;
+    if (FAILED(picture.get_Handle(&number)))
+    {
+        return {};
+    }
+    const auto handle = static_cast<LONG_PTR>(static_cast<LONG>(number));
+    const auto read = [kind, handle](UINT size, unsigned char* bytes)
+    {
+        return kind == PICTYPE_ENHMETAFILE ? ::GetEnhMetaFileBits(reinterpret_cast<HENHMETAFILE>(handle), size, bytes)
+                                           : ::GetMetaFileBitsEx(reinterpret_cast<HMETAFILE>(handle), size, bytes);
+    };
+    std::vector<unsigned char> records(read(0, nullptr));
+    read(static_cast<UINT>(records.size()), records.data());
+    return records;
+}
+
+/// Whether a picture that the platform fetched by itself may be drawn.
+bool isSoundToPlay(IPicture& picture)
+{
+    SHORT kind = PICTYPE_NONE;
+    if (FAILED(picture.get_Type(&kind)))
+    {
+        return false;
+    }
+    if (kind != PICTYPE_ENHMETAFILE && kind != PICTYPE_METAFILE)
+    {
+        return true;
+    }
+    const std::vector<unsigned char> records = recordsOf(picture, kind);
+    return !records.empty() && MetafileCheck::isSound(records.data(), records.size());
+}
+
 bool writeFile(const CString& path, const void* data, DWORD count)
 {
     const KernelHandle file = openFile(path, GENERIC_WRITE, 0, CREATE_ALWAYS);
@@ -182,7 +218,8 @@ DecodedPicture DecodedPicture::fromPath(const CString& path)
     {
         return DecodedPicture();
     }
-    return DecodedPicture(ComOwner<IPicture>(static_cast<IPicture*>(picture)));
+    ComOwner<IPicture> loaded(static_cast<IPicture*>(picture));
+    return loaded != nullptr && isSoundToPlay(*loaded) ? DecodedPicture(std::move(loaded)) : DecodedPicture();
 }
 
 SIZE DecodedPicture::pixels(HDC dc) const

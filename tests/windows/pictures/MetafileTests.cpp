@@ -86,6 +86,26 @@ TEST(Metafile, what_is_cut_off_is_refused_from_memory_and_from_a_file)
     }
 }
 
+TEST(Metafile, what_a_URL_gives_is_judged_too)
+{
+    constexpr size_t handlesAt[] = {56, 32}; // in the header of the one and of the other
+    const size_t* handles = handlesAt;
+    for (const Sample& sample : samples(drawFully))
+    {
+        PictureBytes damaged(sample.bytes);
+        damaged[*handles++] = 1; // fewer than the records make
+        const Canvas canvas;
+        CBitmap bitmap;
+        const TemporaryFile broken(L"broken.emf", &damaged);
+        EXPECT_EQ(CKxPictureEx::LoadBitmap(L"file://" + broken.path, canvas.GetSafeHdc(), 4, 4, bitmap), 0)
+            << sample.name;
+        const TemporaryFile whole(L"whole.emf", &sample.bytes);
+        EXPECT_EQ(CKxPictureEx::LoadBitmap(L"file://" + whole.path, canvas.GetSafeHdc(), 40, 20, bitmap), 1)
+            << sample.name;
+        EXPECT_EQ(pixelOf(bitmap, 10, 10), red) << sample.name;
+    }
+}
+
 TEST(Metafile, every_prefix_is_refused)
 {
     MetafileStand stand;
