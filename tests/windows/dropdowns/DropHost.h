@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 #include "oxa/dropdowns/KxComboColorPicker.h"
-#include "support/LeakCounters.h"
+#include "support/HandleBalance.h"
 #include "support/RealInput.h"
 
 /// A message that a control handed on. The message's name helps to read a failed comparison.
@@ -107,19 +107,6 @@ inline std::wstring textOf(const CWnd& window)
     CString text;
     window.GetWindowText(text);
     return std::wstring(text);
-}
-
-/// How many handles of each kind there are.
-struct Handles
-{
-    int windows = windowCount(), objects = gdiObjectCount(), kernel = kernelHandleCount(), others = menuAndIconCount();
-    bool operator==(const Handles&) const = default;
-};
-
-inline std::ostream& operator<<(std::ostream& out, const Handles& handles)
-{
-    return out << handles.windows << " windows, " << handles.objects << " drawing objects, " << handles.kernel
-               << " kernel handles, " << handles.others << " menus and icons";
 }
 
 /// The pixels of a window's client area of one colour.

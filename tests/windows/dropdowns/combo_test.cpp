@@ -377,13 +377,6 @@ void useOnce(DropHost& host, int round)
 TEST(WatchedComboLifetime, two_thousand_boxes_leave_no_handle)
 {
     DropHost host;
-    for (int i = 0; i < 12; ++i)
-        useOnce(host, i);
-    pumpFor(20);
-    const Handles before;
-    for (int i = 0; i < 2000; ++i)
-        useOnce(host, i);
-    pumpFor(20);
-    EXPECT_EQ(Handles(), before);
+    expectNoHandleLeft(2000, [&](int round) { useOnce(host, round); });
 }
 } // namespace

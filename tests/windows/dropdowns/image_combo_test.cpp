@@ -491,13 +491,6 @@ TEST(ImageComboLifetime, two_thousand_boxes_leave_no_handle)
     DropHost host;
     CImageList pictures;
     fillPictures(pictures);
-    for (int i = 0; i < 10; ++i)
-        useOnce(host, pictures, i);
-    pumpFor(20);
-    const Handles before;
-    for (int i = 0; i < 2000; ++i)
-        useOnce(host, pictures, i);
-    pumpFor(20);
-    EXPECT_EQ(Handles(), before);
+    expectNoHandleLeft(2000, [&](int round) { useOnce(host, pictures, round); });
 }
 } // namespace

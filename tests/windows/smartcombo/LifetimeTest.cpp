@@ -1,24 +1,10 @@
 // Creation, use and destruction of the control leave no window, no drawing object and no other handle behind.
 #include <gtest/gtest.h>
-#include <ostream>
 #include "SmartHost.h"
-#include "support/LeakCounters.h"
+#include "support/HandleBalance.h"
 
 namespace
 {
-/// How many handles of each kind there are.
-struct Handles
-{
-    int windows = windowCount(), objects = gdiObjectCount(), kernel = kernelHandleCount(), others = menuAndIconCount();
-    bool operator==(const Handles&) const = default;
-};
-
-std::ostream& operator<<(std::ostream& out, const Handles& handles)
-{
-    return out << handles.windows << " windows, " << handles.objects << " drawing objects, " << handles.kernel
-               << " kernel handles, " << handles.others << " menus and icons";
-}
-
 /// A control with everything that it can have.
 void useOnce(CWnd& parent, int round)
 {
@@ -58,14 +44,7 @@ void useOnce(CWnd& parent, int round)
 TEST(SmartLifetime, two_thousand_controls_leave_no_handle)
 {
     SmartHost host;
-    for (int i = 0; i < 12; ++i)
-        useOnce(host, i);
-    SmartHost::pump(50);
-    const Handles before;
-    for (int i = 0; i < 2000; ++i)
-        useOnce(host, i);
-    SmartHost::pump(50);
-    EXPECT_EQ(Handles(), before);
+    expectNoHandleLeft(2000, [&](int round) { useOnce(host, round); });
 }
 
 TEST(SmartLifetime, dialogs_with_the_control_leave_no_handle)
@@ -76,12 +55,5 @@ TEST(SmartLifetime, dialogs_with_the_control_leave_no_handle)
         host.remember(L"A B");
         host.combo().ShowDropDown(TRUE);
     };
-    for (int i = 0; i < 3; ++i)
-        use();
-    SmartHost::pump(50);
-    const Handles before;
-    for (int i = 0; i < 20; ++i)
-        use();
-    SmartHost::pump(50);
-    EXPECT_EQ(Handles(), before);
+    expectNoHandleLeft(20, [&](int) { use(); });
 }

@@ -1,7 +1,7 @@
 // Hosts that change rows, end the edit or end the control while they handle its messages.
 #include <ostream>
 #include "EditHost.h"
-#include "support/LeakCounters.h"
+#include "support/HandleBalance.h"
 
 namespace
 {
@@ -210,18 +210,6 @@ TEST_F(TreeListHostile, clicks_on_nothing_and_far_outside_are_harmless)
     EXPECT_EQ(host.editor(), nullptr);
 }
 
-struct Handles
-{
-    int windows = windowCount(), objects = gdiObjectCount(), kernel = kernelHandleCount(), others = menuAndIconCount();
-    bool operator==(const Handles&) const = default;
-};
-
-std::ostream& operator<<(std::ostream& out, const Handles& handles)
-{
-    return out << handles.windows << " windows, " << handles.objects << " drawing objects, " << handles.kernel
-               << " kernel handles, " << handles.others << " menus and icons";
-}
-
 void UseOnce(CKxUnitManager& manager, int round)
 {
     TreeListHost host(CSize(300, 200));
@@ -252,11 +240,6 @@ void UseOnce(CKxUnitManager& manager, int round)
 TEST(TreeListLifetime, created_filled_edited_and_destroyed_again_and_again_nothing_is_left)
 {
     CKxUnitManager manager;
-    for (int round = 0; round < 20; ++round)
-        UseOnce(manager, round);
-    const Handles before;
-    for (int round = 0; round < 300; ++round)
-        UseOnce(manager, round);
-    EXPECT_EQ(Handles(), before);
+    expectNoHandleLeft(300, [&](int round) { UseOnce(manager, round); });
 }
 } // namespace

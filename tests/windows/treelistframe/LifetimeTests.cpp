@@ -1,24 +1,11 @@
 // Creating, filling, editing and destroying leaves no handle behind.
 #include <gtest/gtest.h>
-#include <ostream>
 #include "FrameHost.h"
 #include "kitrel/KxUnitManager.h"
-#include "support/LeakCounters.h"
+#include "support/HandleBalance.h"
 
 namespace
 {
-struct Handles
-{
-    int windows = windowCount(), objects = gdiObjectCount(), kernel = kernelHandleCount(), others = menuAndIconCount();
-    bool operator==(const Handles&) const = default;
-};
-
-std::ostream& operator<<(std::ostream& out, const Handles& handles)
-{
-    return out << handles.windows << " windows, " << handles.objects << " drawing objects, " << handles.kernel
-               << " kernel handles, " << handles.others << " menus and icons";
-}
-
 void fill(OpenFrame& frame, CKxUnitManager& units)
 {
     CKxTreeListViewCtrl& tree = frame.m_tree;
@@ -69,14 +56,7 @@ TEST(TreeListLifetime, two_thousand_edited_lists_leave_no_handle)
 {
     CKxTreeListFrame::RegisterClassW();
     FrameHost host;
-    for (int i = 0; i < 20; ++i)
-        useOnce(host, i);
-    pumpFor(50);
-    const Handles before;
-    for (int i = 0; i < 2000; ++i)
-        useOnce(host, i);
-    pumpFor(50);
-    EXPECT_EQ(Handles(), before);
+    expectNoHandleLeft(2000, [&](int round) { useOnce(host, round); });
 }
 
 TEST(TreeListLifetime, a_frame_without_a_window_leaves_nothing)

@@ -1,25 +1,11 @@
 // Creation and destruction of the unit combo box leave nothing behind.
 #include <gtest/gtest.h>
-#include <ostream>
 #include "UnitHost.h"
-#include "support/LeakCounters.h"
+#include "support/HandleBalance.h"
 
 namespace
 {
 constexpr DWORD style = WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWN;
-
-/// How many handles of each kind there are.
-struct Handles
-{
-    int windows = windowCount(), objects = gdiObjectCount(), kernel = kernelHandleCount(), others = menuAndIconCount();
-    bool operator==(const Handles&) const = default;
-};
-
-std::ostream& operator<<(std::ostream& out, const Handles& handles)
-{
-    return out << handles.windows << " windows, " << handles.objects << " drawing objects, " << handles.kernel
-               << " kernel handles, " << handles.others << " menus and icons";
-}
 
 void setAndCommit(CKxComboBoxUnit& combo, CWnd& parent, int round)
 {
@@ -56,14 +42,7 @@ void useByUser(CWnd& parent, int round)
 void expectNoTrace(void (*use)(CWnd& parent, int round), int rounds)
 {
     UnitHost host;
-    for (int i = 0; i < 10; ++i)
-        use(host, i);
-    UnitHost::pump(50);
-    const Handles before;
-    for (int i = 0; i < rounds; ++i)
-        use(host, i);
-    UnitHost::pump(50);
-    EXPECT_EQ(Handles(), before);
+    expectNoHandleLeft(rounds, [&](int round) { use(host, round); });
 }
 
 TEST(UnitComboLifetime, a_thousand_controls_leave_no_handle)
