@@ -16,6 +16,14 @@ public:
     bool disabled = false;
     int asked = 0;
 
+    /// The three ways to restrict a sheet; `byVirtual`: what IsPropertySheetDisabled answers.
+    void restrict(bool protectionDisabled, bool byCall, bool byVirtual)
+    {
+        SetProtectionDisabled(protectionDisabled);
+        if (byCall)
+            DisablePropertySheet();
+        disabled = byVirtual;
+    }
     bool IsPropertySheetDisabled() override
     {
         ++asked;
@@ -66,10 +74,7 @@ TEST(KxPropertySheet, ok_is_taken_away_by_the_flags)
         Sheet sheet(L"Sheet", &owner);
         Page page;
         sheet.AddPage(&page);
-        sheet.SetProtectionDisabled(row.protectionDisabled);
-        if (row.disabled)
-            sheet.DisablePropertySheet();
-        sheet.disabled = row.sheetDisabled;
+        sheet.restrict(row.protectionDisabled, row.disabled, row.sheetDisabled);
         BOOL okEnabled = 2, cancelEnabled = 2;
         sheet.steps = {[&]
                        {
@@ -102,10 +107,7 @@ TEST(KxPropertySheet, enter_presses_ok_unless_the_virtual_says_that_the_sheet_is
         Sheet sheet(L"Sheet", &owner);
         Page page;
         sheet.AddPage(&page);
-        sheet.SetProtectionDisabled(row.protectionDisabled);
-        if (row.disabled)
-            sheet.DisablePropertySheet();
-        sheet.disabled = row.sheetDisabled;
+        sheet.restrict(row.protectionDisabled, row.disabled, row.sheetDisabled);
         sheet.steps = {[&]
                        {
                            page.GetDlgItem(IDC_EDIT)->SetFocus();

@@ -2,6 +2,7 @@
 #pragma once
 #include <afxwin.h>
 #include <functional>
+#include <initializer_list>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -123,4 +124,23 @@ inline int pixelsOf(HWND window, COLORREF colour)
     }
     ::ReleaseDC(window, source);
     return count;
+}
+
+/// A user opens the list, picks a row and leaves the field; its host ends itself at the notification `code`.
+inline void expectEndedAt(int code, DropHost& host, CWnd& field)
+{
+    host.onCommand = [&](int heard)
+    {
+        if (heard == code)
+            host.DestroyWindow();
+    };
+    field.SetFocus();
+    for (const WORD one : std::initializer_list<WORD>{VK_F4, VK_DOWN, VK_RETURN})
+    {
+        if (field.m_hWnd != nullptr)
+            key(one);
+    }
+    if (host.m_hWnd != nullptr)
+        host.SetFocus();
+    EXPECT_EQ(field.m_hWnd, nullptr) << code;
 }

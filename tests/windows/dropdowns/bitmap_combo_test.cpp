@@ -285,20 +285,7 @@ TEST_F(BitmapCombo, may_lose_its_parent_in_each_notification)
         mortal.Create(style, CRect(20, 20, 220, 200), &other, 7);
         mortal.AddBitmap(IDB_BLOCK);
         mortal.AddBitmap(IDB_BLOCK);
-        other.onCommand = [&](int heard)
-        {
-            if (heard == code)
-                other.DestroyWindow();
-        };
-        mortal.SetFocus();
-        for (const WORD one : std::initializer_list<WORD>{VK_F4, VK_DOWN, VK_RETURN})
-        {
-            if (mortal.m_hWnd != nullptr)
-                key(one);
-        }
-        if (other.m_hWnd != nullptr)
-            other.SetFocus();
-        EXPECT_EQ(mortal.m_hWnd, nullptr) << code;
+        expectEndedAt(code, other, mortal);
     }
 }
 

@@ -407,20 +407,7 @@ TEST_F(ColorPicker, may_lose_its_parent_in_each_notification)
         DropHost other;
         CKxComboColorPicker mortal;
         mortal.Create(style, CRect(20, 20, 160, 260), &other, 7);
-        other.onCommand = [&](int heard)
-        {
-            if (heard == code)
-                other.DestroyWindow();
-        };
-        mortal.SetFocus();
-        for (const WORD one : std::initializer_list<WORD>{VK_F4, VK_DOWN, VK_RETURN})
-        {
-            if (mortal.m_hWnd != nullptr)
-                key(one);
-        }
-        if (other.m_hWnd != nullptr)
-            other.SetFocus();
-        EXPECT_EQ(mortal.m_hWnd, nullptr) << code;
+        expectEndedAt(code, other, mortal);
     }
 }
 
