@@ -1,80 +1,8 @@
 // Property sheets and pages: construction, the modal loop, pages that refuse, sheets beside their parent.
-#include <afxcmn.h>
-#include <afxdlgs.h>
-
 #include <memory>
 
-#include "Fixture.h"
-#include "ids.h"
+#include "SheetFixture.h"
 #include "support/LeakCounters.h"
-#include "support/RealInput.h"
-#include "support/StepSheet.h"
-
-namespace
-{
-using Sheet = StepSheet<CPropertySheet>;
-
-class CPage : public CPropertyPage
-{
-public:
-    Log log;
-    CString value;
-    BOOL activates = TRUE, leaves = TRUE, applies = TRUE, cancels = TRUE;
-
-    explicit CPage(UINT id = IDD_PAGE_ONE, UINT captionId = 0) : CPropertyPage(id, captionId) {}
-    BOOL OnSetActive() override
-    {
-        log.push_back(L"active");
-        return CPropertyPage::OnSetActive() && activates;
-    }
-    BOOL OnKillActive() override
-    {
-        log.push_back(L"left");
-        return CPropertyPage::OnKillActive() && leaves;
-    }
-    BOOL OnApply() override
-    {
-        log.push_back(L"apply");
-        return CPropertyPage::OnApply() && applies;
-    }
-    void OnReset() override
-    {
-        log.push_back(L"reset");
-        CPropertyPage::OnReset();
-    }
-    BOOL OnQueryCancel() override
-    {
-        log.push_back(L"query");
-        return CPropertyPage::OnQueryCancel() && cancels;
-    }
-    void OnOK() override { log.push_back(L"ok"); }
-    void OnCancel() override { log.push_back(L"cancel"); }
-    bool hasApplyButton() const { return ::IsWindowEnabled(::GetDlgItem(::GetParent(m_hWnd), ID_APPLY_NOW)) != FALSE; }
-
-protected:
-    void DoDataExchange(CDataExchange* exchange) override
-    {
-        CPropertyPage::DoDataExchange(exchange);
-        DDX_Text(exchange, IDC_TEXT, value);
-    }
-};
-
-/// A shown frame of the tests that owns sheets.
-struct Owner
-{
-    CTop wnd;
-    Owner()
-    {
-        wnd.make(WS_POPUP | WS_VISIBLE, CRect(50, 50, 350, 250));
-        wnd.SetForegroundWindow();
-    }
-};
-
-HWND button(const CPropertySheet& sheet, int id)
-{
-    return ::GetDlgItem(sheet.m_hWnd, id);
-}
-} // namespace
 
 TEST(PropertySheets, five_constructors_take_caption_parent_and_page)
 {
