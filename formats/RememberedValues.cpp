@@ -107,11 +107,17 @@ void RememberedValues::Fill(CStringList& list, std::vector<CString> values, bool
     append(list, values);
 }
 
-std::vector<std::size_t> RememberedValues::FirstEqual(const std::vector<std::wstring>& keys)
+std::vector<std::size_t> RememberedValues::Order(const std::vector<std::wstring>& keys)
 {
     std::vector<std::size_t> order(keys.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
     std::stable_sort(order.begin(), order.end(), [&keys](std::size_t a, std::size_t b) { return keys[a] < keys[b]; });
+    return order;
+}
+
+std::vector<std::size_t> RememberedValues::FirstEqual(const std::vector<std::wstring>& keys,
+                                                      const std::vector<std::size_t>& order)
+{
     std::vector<std::size_t> first(keys.size());
     std::size_t head = 0;
     for (std::size_t i = 0; i < order.size(); ++i)

@@ -25,8 +25,13 @@ struct OXA_API RememberedValues
     /// Replaces the items by what Insert of each value in turn makes of an empty list. Takes n log n comparisons.
     static void Fill(CStringList& list, std::vector<CString> values, bool sorted);
 
-    /// For each key the place of the first one that equals it. Takes n log n comparisons.
-    static std::vector<std::size_t> FirstEqual(const std::vector<std::wstring>& keys);
+    /// The places of the keys in ascending order of the keys; equal ones in the order in which they come. Takes n log n
+    /// comparisons.
+    static std::vector<std::size_t> Order(const std::vector<std::wstring>& keys);
+
+    /// For each key the place of the first one that equals it; `order` is what Order answers for the keys.
+    static std::vector<std::size_t> FirstEqual(const std::vector<std::wstring>& keys,
+                                               const std::vector<std::size_t>& order);
 
     static std::vector<CString> Copy(const CStringList& list);
 

@@ -13,6 +13,13 @@ public:
     explicit SmartComboAccess(CComboBox& combo) : m_combo(combo) {}
 
     int AddString(const wchar_t* text) { return HasWindow() ? m_combo.AddString(text) : smartcombo::none; }
+    int AppendString(const wchar_t* text) { return HasWindow() ? m_combo.InsertString(-1, text) : smartcombo::none; }
+    bool KeepsSorted() const { return HasWindow() && (m_combo.GetStyle() & CBS_SORT) != 0; }
+    void SetRedraw(bool redraw)
+    {
+        if (HasWindow())
+            m_combo.SetRedraw(redraw ? TRUE : FALSE);
+    }
     int DeleteString(unsigned int position) { return HasWindow() ? m_combo.DeleteString(position) : smartcombo::none; }
     void ResetContent()
     {

@@ -18,6 +18,13 @@ concept ComboBox = requires(Combo& combo, const Combo& reader, int index, unsign
         combo.AddString(text)
         } -> std::same_as<int>;
     {
+        reader.KeepsSorted()
+        } -> std::same_as<bool>; // whether AddString puts an item where the order of the search keys sends it
+    {
+        combo.AppendString(text)
+        } -> std::same_as<int>; // at the end, whatever the order
+    combo.SetRedraw(true);      // between false and true nothing of the list is painted
+    {
         combo.DeleteString(position)
         } -> std::same_as<int>;
     combo.ResetContent();
@@ -37,7 +44,8 @@ concept ComboBox = requires(Combo& combo, const Combo& reader, int index, unsign
     {
         reader.FindStringExact(index, text)
         } -> std::same_as<int>;
-    // Equal for two texts when the exact search takes one for the other; empty for a text that it never finds.
+    // Equal for two texts when the exact search takes one for the other; empty for a text that it never finds. A sorted
+    // combo box has its items in the order of their keys.
     {
         reader.SearchKey(text)
         } -> std::same_as<std::wstring>;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <numeric>
 #include <string>
 #include <utility>
 #include <vector>
@@ -150,24 +151,53 @@ private:
             m_data.list.RemoveAt(place);
     }
 
-    // The same as AddStringCombo of each value into the empty control, without a search through the combo box for each.
-    void AddAll(std::vector<CString> values)
+    /// Nothing of the list is painted while there is one.
+    class Unpainted
+    {
+    public:
+        explicit Unpainted(Combo& combo) : m_combo(combo) { m_combo.SetRedraw(false); }
+        ~Unpainted() { m_combo.SetRedraw(true); }
+        Unpainted(const Unpainted&) = delete;
+        Unpainted& operator=(const Unpainted&) = delete;
+
+    private:
+        Combo& m_combo;
+    };
+
+    std::vector<std::wstring> SearchKeys(const std::vector<CString>& values) const
     {
         std::vector<std::wstring> keys;
         keys.reserve(values.size());
         for (const CString& value : values)
             keys.push_back(m_combo.SearchKey(value));
-        const std::vector<std::size_t> first = RememberedValues::FirstEqual(keys);
+        return keys;
+    }
+
+    // The same as AddStringCombo of each value into the empty control, without a search through the combo box for each. A
+    // sorted combo box gets them in its order, each at the end: it would search and shift for those that come in disorder.
+    void AddAll(std::vector<CString> values)
+    {
+        const std::vector<std::wstring> keys = SearchKeys(values);
+        std::vector<std::size_t> order = RememberedValues::Order(keys);
+        const std::vector<std::size_t> first = RememberedValues::FirstEqual(keys, order);
+        if (!m_combo.KeepsSorted())
+            std::iota(order.begin(), order.end(), std::size_t{0});
         std::vector<bool> present(values.size());
-        std::vector<CString> added;
-        added.reserve(values.size());
-        for (std::size_t i = 0; i < values.size(); ++i)
+        std::vector<bool> added(values.size());
         {
-            if (present[first[i]])
-                continue;
-            present[first[i]] = m_combo.AddString(values[i]) >= 0 && !keys[i].empty();
-            added.push_back(std::move(values[i]));
+            const Unpainted whileItGrows(m_combo);
+            for (const std::size_t i : order)
+            {
+                added[i] = !present[first[i]];
+                if (added[i])
+                    present[first[i]] = m_combo.AppendString(values[i]) >= 0 && !keys[i].empty();
+            }
         }
-        RememberedValues::Fill(m_data.list, std::move(added), m_data.sort != 0);
+        std::size_t kept = 0;
+        for (std::size_t i = 0; i < values.size(); ++i)
+            if (added[i])
+                std::swap(values[kept++], values[i]);
+        values.resize(kept);
+        RememberedValues::Fill(m_data.list, std::move(values), m_data.sort != 0);
     }
 };

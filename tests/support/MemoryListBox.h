@@ -44,6 +44,9 @@ public:
     }
 
     int AddString(const wchar_t* text) { return InsertString(keepSorted ? sortedPlace(text) : -1, text); }
+    int AppendString(const wchar_t* text) { return InsertString(-1, text); }
+    bool KeepsSorted() const { return keepSorted; }
+    void SetRedraw(bool redraw) { isPainted = redraw; }
     int InsertString(int index, const wchar_t* text)
     {
         const int position = index == -1 ? GetCount() : index;
@@ -100,6 +103,7 @@ public:
     bool refuseInsertions = false; ///< as a list out of memory does
     bool refuseDeletions = false;  ///< as no list does on its own
     bool keepSorted = false;       ///< as CBS_SORT does
+    bool isPainted = true;         ///< false between SetRedraw(false) and SetRedraw(true)
     int markFirst = -1;            ///< the marked characters of the edit field
     int markEnd = -1;
     int told = 0;                      ///< how often the parent heard of a valid text

@@ -122,6 +122,17 @@ TEST(SmartComboAgainstPlain, a_combo_box_that_refuses_an_item_is_asked_again_for
     EXPECT_EQ(plain.shown(), quick.shown());
 }
 
+TEST(SmartComboAgainstPlain, a_sorted_combo_box_of_an_unsorted_control_has_its_own_order)
+{
+    TestedSmartCombo smart;
+    smart.data().sort = 0;
+    smart.combo().keepSorted = true;
+    CStringList values;
+    TestedSmartCombo::fill(values, L"b A a B c");
+    smart.call().SetStringCombo(values);
+    EXPECT_EQ(smart.shown(), L"A b c / b A c / ");
+}
+
 TEST(RememberedValues, an_element_finds_its_place_at_the_far_end_of_a_long_list)
 {
     CStringList list;

@@ -52,6 +52,7 @@ public:
 
     int GetCount() const { return m_box.GetCount(); }
     int AddString(const wchar_t* text) { return refuseInsertions ? -1 : SmartComboAccess::AddString(text); }
+    int AppendString(const wchar_t* text) { return refuseInsertions ? -1 : SmartComboAccess::AppendString(text); }
     void SetEditSel(int first, int end)
     {
         markFirst = first;

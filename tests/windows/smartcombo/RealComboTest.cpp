@@ -1,5 +1,6 @@
 // What the logic asks of a real combo box: keys that agree with its exact search, texts and marks of any length.
 #include <gtest/gtest.h>
+#include <map>
 #include <random>
 #include "RealComboBox.h"
 
@@ -54,6 +55,42 @@ TEST(RealCombo, search_keys_agree_with_the_exact_search_over_random_texts)
     EXPECT_GT(equal, 0);
 }
 
+TEST(RealCombo, search_keys_have_the_order_of_a_sorted_combo_box)
+{
+    std::mt19937 random(20261122); // a fixed seed
+    for (int round = 0; round < 40; ++round)
+    {
+        RealComboBox sorted, appended;
+        sorted.keepSorted = true;
+        appended.keepSorted = true;
+        std::map<std::wstring, std::wstring> byKey;
+        for (int i = 0; i < 60; ++i)
+        {
+            const std::wstring text = someText(random);
+            if (byKey.emplace(sorted.SearchKey(text.c_str()), text).second)
+            {
+                sorted.AddString(text.c_str());
+            }
+        }
+        for (const auto& [key, text] : byKey)
+            appended.AppendString(text.c_str());
+        ASSERT_EQ(sorted.GetCount(), appended.GetCount());
+        for (int i = 0; i < sorted.GetCount(); ++i)
+            ASSERT_EQ(sorted.GetItemText(i), appended.GetItemText(i)) << round << ", " << i;
+    }
+}
+
+TEST(RealCombo, an_appended_text_stands_at_the_end_whatever_the_order)
+{
+    RealComboBox box;
+    EXPECT_FALSE(box.KeepsSorted());
+    box.keepSorted = true;
+    EXPECT_TRUE(box.KeepsSorted());
+    EXPECT_EQ(box.AppendString(L"b"), 0);
+    EXPECT_EQ(box.AppendString(L"a"), 1);
+    EXPECT_EQ(box.AddString(L"A0"), 0);
+}
+
 TEST(RealCombo, the_empty_text_has_an_empty_key_and_is_never_found)
 {
     RealComboBox box;
@@ -94,6 +131,9 @@ TEST(RealCombo, without_a_window_everything_fails_quietly)
     CComboBox none;
     SmartComboAccess access(none);
     EXPECT_EQ(access.AddString(L"a"), -1);
+    EXPECT_EQ(access.AppendString(L"a"), -1);
+    EXPECT_FALSE(access.KeepsSorted());
+    access.SetRedraw(false);
     EXPECT_EQ(access.DeleteString(0), -1);
     EXPECT_EQ(access.FindString(-1, L"a"), -1);
     EXPECT_EQ(access.FindStringExact(-1, L"a"), -1);

@@ -1,6 +1,7 @@
 // What a host can do to the control at the wrong moment, and values as no user types them.
 #include <gtest/gtest.h>
 #include "SmartHost.h"
+#include "support/Pixels.h"
 
 namespace
 {
@@ -249,6 +250,27 @@ TEST(SmartHostile, empty_texts_in_every_list_are_kept)
     CStringList fetched;
     host.smart->GetListFilterString(fetched);
     EXPECT_TRUE(fetched.IsEmpty());
+}
+
+TEST(SmartHostile, values_may_be_replaced_while_their_list_is_open)
+{
+    SmartHost host;
+    host.remember(L"A B C D E F");
+    host.combo().SetFocus();
+    SmartHost::press(VK_F4);
+    COMBOBOXINFO info = {};
+    info.cbSize = sizeof info;
+    ASSERT_TRUE(::GetComboBoxInfo(host.combo().m_hWnd, &info));
+    ASSERT_TRUE(waitFor([&] { return ::IsWindowVisible(info.hwndList) != FALSE; }));
+    host.remember(L"X Y");
+    SmartHost::pump(20);
+    CWnd& list = *CWnd::FromHandle(info.hwndList);
+    const Pixels painted(list);
+    list.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+    EXPECT_EQ(painted.difference(Pixels(list)), "") << "the new values show";
+    SmartHost::press(VK_DOWN);
+    SmartHost::press(VK_RETURN);
+    EXPECT_EQ(host.shown(), L"[X] Y / X Y / X");
 }
 
 // ---- Many values
