@@ -51,7 +51,10 @@ bool CKxPropertySheet::IsPropertySheetDisabled()
 
 BOOL CKxPropertySheet::OnInitDialog()
 {
+    const HWND self = m_hWnd;
     CPropertySheet::OnInitDialog();
+    if (FromHandlePermanent(self) != this)
+        return TRUE; // the first page ended the sheet
     // The virtual is asked only where its answer counts.
     if (m_bProtectionDisabled || !SheetRules::DisablesOk(false, m_bDisabled, m_bDisabled || IsPropertySheetDisabled()))
         return TRUE;

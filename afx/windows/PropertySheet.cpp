@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <cstring>
 
+#include "EndLater.h"
 #include "ModalOwner.h"
+#include "StillThere.h"
 
 IMPLEMENT_DYNAMIC(CPropertySheet, CWnd)
 
@@ -35,6 +37,23 @@ void setStyles(LPARAM dialogTemplate, const DWORD* styles)
         (styles[0] & ~static_cast<DWORD>(DS_SETFONT)) | (font & DS_SETFONT); // what follows depends on it
     memcpy(bytes + (extended ? 12 : 0), &style, sizeof style);
     memcpy(bytes + (extended ? 8 : 4), &styles[1], sizeof styles[1]);
+}
+
+// With these messages the system's sheet makes pages and tells them what happens, and goes on when they have answered.
+bool tellsPages(UINT message, WPARAM wParam)
+{
+    switch (message)
+    {
+    case WM_INITDIALOG:
+    case WM_COMMAND:
+    case WM_NOTIFY:
+    case WM_CLOSE:
+        return true;
+    case WM_SYSCOMMAND:
+        return (wParam & 0xFFF0) == SC_CLOSE;
+    default:
+        return message >= PSM_SETCURSEL && message <= PSM_SETHEADERSUBTITLEW;
+    }
 }
 
 int CALLBACK onSheet(HWND wnd, UINT message, LPARAM lParam)
@@ -78,9 +97,10 @@ CPropertySheet::CPropertySheet(LPCTSTR caption, CWnd* parent, UINT selectPage, H
 
 CPropertySheet::~CPropertySheet()
 {
-    CPropertySheet::DestroyWindow();
     for (CPropertyPage* page : m_pages)
         page->m_pSheet = nullptr;
+    if (!CPropertySheet::DestroyWindow())
+        UnsubclassWindow(); // it ends later, alone
 }
 
 void CPropertySheet::Construct(UINT captionId, CWnd* parent, UINT selectPage)
@@ -155,8 +175,8 @@ HWND CPropertySheet::makeWindow(HWND owner, const DWORD* styles)
     AfxUnhookWindowCreate();
     wantedStyles = nullptr;
     hostsCallback = nullptr;
-    const bool made = reinterpret_cast<INT_PTR>(wnd) > 0 && FromHandlePermanent(wnd) == this;
-    return made ? wnd : nullptr;
+    const bool made = reinterpret_cast<INT_PTR>(wnd) > 0;
+    return made && !kx::endsNow(wnd) && FromHandlePermanent(wnd) == this ? wnd : nullptr;
 }
 
 INT_PTR CPropertySheet::DoModal()
@@ -222,6 +242,14 @@ void CPropertySheet::EndDialog(int result)
 
 // ---- Messages
 
+LRESULT CPropertySheet::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (!tellsPages(message, wParam))
+        return CWnd::DefWindowProc(message, wParam, lParam);
+    const kx::AtWork atWork(m_hWnd);
+    return CWnd::DefWindowProc(message, wParam, lParam);
+}
+
 LRESULT CPropertySheet::HandleInitDialog(WPARAM, LPARAM)
 {
     return OnInitDialog();
@@ -229,7 +257,10 @@ LRESULT CPropertySheet::HandleInitDialog(WPARAM, LPARAM)
 
 BOOL CPropertySheet::OnInitDialog()
 {
-    const auto answer = static_cast<BOOL>(Default());
+    const kx::StillThere here(*this);
+    const auto answer = static_cast<BOOL>(Default()); // makes the first page, which may end the sheet
+    if (!here)
+        return FALSE;
     if (CTabCtrl* tabs = m_bStacked ? nullptr : GetTabControl())
         tabs->ModifyStyle(TCS_MULTILINE, TCS_SINGLELINE);
     if (m_bModeless && !IsWizard())

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "StillThere.h"
 #include "TempWnd.h"
 
 void CPropertySheet::AddPage(CPropertyPage* page)
@@ -17,7 +18,11 @@ void CPropertySheet::AddPage(CPropertyPage* page)
         if (handle == nullptr)
             return;
         page->m_bFirstSetActive = TRUE;
-        if (SendMessage(PSM_ADDPAGE, 0, reinterpret_cast<LPARAM>(handle)) == 0)
+        const kx::StillThere here(*this);
+        const bool added = SendMessage(PSM_ADDPAGE, 0, reinterpret_cast<LPARAM>(handle)) != 0;
+        if (!here)
+            return;
+        if (!added)
         {
             ::DestroyPropertySheetPage(handle);
             return;

@@ -6,6 +6,7 @@
 #include <memory>
 #include <typeindex>
 #include <utility>
+#include <vector>
 
 #include <windows.h>
 
@@ -20,13 +21,15 @@ struct KxThreadState
     CWinThread* thread = nullptr;            ///< null for a thread that the framework did not start
 
     // creation
-    CWnd* waiting = nullptr; ///< gets the next window that is created
-    HHOOK createHook = nullptr;
+    CWnd* waiting = nullptr;    ///< gets the next window that is created
+    HHOOK createHook = nullptr; ///< also asked when a window is to end
 
     // messages
     MSG lastSent{};         ///< the message that a window procedure is handling
     MSG pumped{};           ///< the message that was taken last, where there is no thread object
     HWND lockout = nullptr; ///< notifications to this window are not routed: its data is being exchanged
+
+    std::vector<HWND> atWork; ///< windows that may not end yet: the system's own code works on them
 
     // temporary objects, one for each handle and class that was asked for
     std::map<std::pair<HWND, std::type_index>, std::unique_ptr<CWnd>> temporary;

@@ -5,6 +5,7 @@
 #include <set>
 #include <string>
 
+#include "EndLater.h"
 #include "ThreadState.h"
 
 namespace
@@ -33,6 +34,8 @@ LRESULT CALLBACK onCreateHook(int code, WPARAM wParam, LPARAM lParam)
 {
     KxThreadState& thread = kxThread();
     const auto wnd = reinterpret_cast<HWND>(wParam);
+    if (code == HCBT_DESTROYWND && kx::endsLater(wnd))
+        return 1;
     if (code == HCBT_CREATEWND && thread.waiting != nullptr && !isInputMethodWindow(wnd))
     {
         CWnd* object = thread.waiting;

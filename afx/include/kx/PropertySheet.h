@@ -11,6 +11,9 @@ class CTabCtrl;
 
 /// A sheet of pages. Modal: AddPage each, then DoModal. Modeless: AddPage each, then Create; it has no OK, Cancel and
 /// Apply buttons then, and its caption's close button ends it.
+///
+/// A sheet that is ended while its pages are told something (by DestroyWindow, EndDialog or delete in OnKillActive, say) is
+/// hidden at once and ends when the message loop comes round.
 class KXAFX_API CPropertySheet : public CWnd
 {
     DECLARE_DYNAMIC(CPropertySheet)
@@ -76,6 +79,7 @@ public:
 
 protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     afx_msg LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
     afx_msg void OnClose();
 
