@@ -98,6 +98,7 @@ CEdit* CKxTreeListViewCtrl::GetEditControl(int column, CRect& rect)
 void CKxTreeListViewCtrl::OnBeginLabelEdit(NMHDR* notify, LRESULT* result)
 {
     *result = 1; // the platform's own editor never opens
+    DropLostEditor();
     if (m_pEdit != nullptr)
     {
         m_pEdit->SetFocus();
@@ -136,6 +137,13 @@ void CKxTreeListViewCtrl::SetEditState(const eEditState& state)
     m_editState = state;
 }
 
+/// Somebody else destroyed the editor's window: nothing is being edited any more.
+void CKxTreeListViewCtrl::DropLostEditor()
+{
+    if (m_pEdit != nullptr && m_pEdit->m_hWnd == nullptr)
+        FreeEditControl();
+}
+
 void CKxTreeListViewCtrl::FreeEditControl()
 {
     const std::unique_ptr<CEdit> editor(std::exchange(m_pEdit, nullptr));
@@ -160,6 +168,7 @@ void CKxTreeListViewCtrl::DoDataExchange(CDataExchange* dx)
 
 bool CKxTreeListViewCtrl::ProcessEditNotification()
 {
+    DropLostEditor();
     if (m_pEdit == nullptr)
         return true;
     if (m_editState != EDIT_STATE_EDITING)
@@ -172,6 +181,8 @@ bool CKxTreeListViewCtrl::ProcessEditNotification()
     CString trimmed = TextOf(*m_pEdit);
     trimmed.Trim();
     const BOOL accepted = UpdateData(TRUE);
+    if (here)
+        DropLostEditor();
     if (!here || m_pEdit == nullptr || m_editsOpened != edit)
         return true; // ended meanwhile
     if (!accepted)
@@ -196,7 +207,7 @@ bool CKxTreeListViewCtrl::WriteEditedCell(const CString& trimmed)
     const HWND target = ParentOfFrame()->GetSafeHwnd();
     const HTREEITEM node = GetSelectedItem();
     const auto isOpen = [&]
-    { return here && m_pEdit != nullptr && m_editsOpened == edit && m_editState == EDIT_STATE_EDITING; };
+    { return here && m_pEdit->GetSafeHwnd() != nullptr && m_editsOpened == edit && m_editState == EDIT_STATE_EDITING; };
     const auto tell = [&](UINT message)
     {
         HTREEITEM told = node;
@@ -326,7 +337,10 @@ void CKxTreeListViewCtrl::OnKeyDown(UINT key, UINT repeat, UINT flags)
     const Surviving here(*this);
     CTreeCtrl::OnKeyDown(key, repeat, flags);
     if (here)
+    {
         ResetVertScrollBar();
+        DropLostEditor();
+    }
     if (!here || !GetCanModifyLabels() || !treelist::KeyOpensEditor(key) || m_pEdit != nullptr)
         return;
     m_keyEdit = true;

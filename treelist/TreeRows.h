@@ -182,7 +182,7 @@ public:
             rows.push_back(RowOf(node));
             complete = complete && rows.back() != nullptr;
         }
-        if (!complete)
+        if (!complete || rows.empty()) // the tree itself knows whether there is such a node
             return m_tree.Sort(parent, [&](LPARAM a, LPARAM b)
                                { return ComparePlainly(m_store.Find(a), m_store.Find(b), column, ascending); });
         RankRows(rows, column, ascending);

@@ -154,7 +154,7 @@ public:
     /// Destroys the records of the sibling chain from `first` and of everything below. The nodes stay, without records.
     void MemDeleteAllItems(HTREEITEM first);
 
-    /// Sorts the direct children of `parent` (null: the top level) by the texts of column `col`. Rows that compare equal keep
+    /// Sorts the direct children of `parent` (null or `TVI_ROOT`: the top level) by the texts of column `col`. Rows that compare equal keep
     /// their order. See `CompareFunc`.
     BOOL SortItems(int col, BOOL ascending, HTREEITEM parent);
     /// Compares two `CKxTreeListRow`s by the column and the flag (0: descending) in the two ints at `sortParam`: as lengths in
@@ -234,6 +234,7 @@ private:
     void CreateEditor(HTREEITEM item, int column, CRect& rect);
     void ClickRow(HTREEITEM item);
     bool PressButton(CPoint point);
+    void DropLostEditor();
     void LeaveBusyWindow();
 
     friend class treelist::NativeTree;

@@ -183,6 +183,30 @@ TEST_F(TreeListControl, a_moved_subtree_arrives_collapsed_and_not_selected)
     EXPECT_EQ(host.cell(tree.GetChildItem(moved), 0), L"b");
 }
 
+TEST_F(TreeListControl, the_root_stands_for_the_top_level_in_a_sort_too)
+{
+    for (const wchar_t* text : {L"Item3", L"Item1", L"Item2"})
+        host.add(text);
+    EXPECT_TRUE(tree.SortItems(0, TRUE, TVI_ROOT));
+    EXPECT_EQ(host.cell(tree.GetRootItem(), 0), L"Item1");
+    HTREEITEM const bare =
+        tree.CTreeCtrl::InsertItem(TVIF_PARAM, L"", 0, 0, 0, 0, LPARAM{7}, TVI_ROOT, TVI_LAST); // no record
+    EXPECT_TRUE(tree.SortItems(0, FALSE, TVI_ROOT));
+    EXPECT_EQ(tree.GetRootItem(), bare) << "as an empty text";
+    EXPECT_EQ(host.cell(tree.GetNextSiblingItem(bare), 0), L"Item3");
+}
+
+TEST_F(TreeListControl, what_is_no_node_has_nothing_to_sort)
+{
+    host.add(L"b");
+    HTREEITEM const a = host.add(L"a");
+    HTREEITEM const gone = host.add(L"gone");
+    tree.DeleteItem(gone);
+    for (HTREEITEM wrong : {TVI_FIRST, TVI_LAST, TVI_SORT, gone})
+        EXPECT_FALSE(tree.SortItems(0, TRUE, wrong));
+    EXPECT_NE(tree.GetRootItem(), a);
+}
+
 TEST_F(TreeListControl, special_places_are_no_rows)
 {
     host.add(L"a");

@@ -150,6 +150,57 @@ TEST_F(TreeListHostile, the_edited_row_may_go_while_the_editor_is_open)
     EXPECT_TRUE(host.heard.empty()) << "the end is quiet";
 }
 
+TEST_F(TreeListHostile, an_editor_whose_window_somebody_destroyed_writes_nothing_and_makes_room_for_the_next)
+{
+    for (const int x : {int{inPlain}, int{inLength}})
+    {
+        host.edit(a, x);
+        ASSERT_NE(host.editor(), nullptr);
+        host.editor()->DestroyWindow();
+        EXPECT_TRUE(tree.ProcessEditNotification());
+        EXPECT_EQ(host.editor(), nullptr);
+        host.edit(a, x);
+        ::DestroyWindow(host.editor()->m_hWnd);
+        host.clickRow(b, inName);
+        EXPECT_EQ(host.editor(), nullptr);
+        EXPECT_EQ(tree.GetSelectedItem(), b);
+        host.edit(a, x);
+        host.editor()->DestroyWindow();
+        tree.CTreeCtrl::EditLabel(a);
+        ASSERT_NE(host.editor(), nullptr);
+        EXPECT_NE(host.editor()->m_hWnd, nullptr) << "another one";
+        host.editor()->DestroyWindow();
+        tree.SendMessage(WM_KEYDOWN, '5', 1);
+        ASSERT_NE(host.editor(), nullptr);
+        EXPECT_NE(host.editor()->m_hWnd, nullptr);
+        tree.FreeEditControl();
+    }
+    EXPECT_TRUE(host.heard.empty());
+    EXPECT_EQ(host.cell(a, 2), L"first");
+    EXPECT_EQ(tree.GetItemValue(a, 1), 1.5);
+}
+
+TEST_F(TreeListHostile, an_editor_destroyed_before_the_cell_is_written_writes_nothing)
+{
+    CommitWhile(0x435, [this] { host.editor()->DestroyWindow(); });
+    EXPECT_EQ(host.cell(a, 2), L"first");
+    EXPECT_EQ(Count(0x436), 0);
+    CommitWhile(0x436, [this] { host.editor()->DestroyWindow(); });
+    EXPECT_EQ(host.cell(a, 2), L"new");
+}
+
+TEST_F(TreeListHostile, scrolling_painting_and_keys_bear_an_editor_without_a_window)
+{
+    host.edit(a, inPlain);
+    host.editor()->DestroyWindow();
+    host.frame->SendMessage(WM_HSCROLL, SB_RIGHT, reinterpret_cast<LPARAM>(::GetDlgItem(host.frame->m_hWnd, 377)));
+    tree.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    MSG message = {tree.m_hWnd, WM_KEYDOWN, VK_RETURN, 1, 0, {}};
+    EXPECT_TRUE(host.frame->PreTranslateMessage(&message));
+    EXPECT_EQ(host.editor(), nullptr);
+    EXPECT_EQ(host.cell(a, 2), L"first");
+}
+
 TEST_F(TreeListHostile, the_frame_may_be_destroyed_within_any_message)
 {
     for (const UINT message : {0x435U, 0x436U})

