@@ -127,10 +127,12 @@ ButtonComboItem ButtonComboPalette::Item(const CRect& rect, long item) const
     ButtonComboItem drawn;
     if (item == none || item > count)
         return drawn;
+    if (hasTiles && item < 0)
+        return drawn; // such a tile would stand left of the strip
     if (hasTiles)
     {
         drawn.tile = rect.CenterPoint() - CSize(cell.cx / 2, cell.cy / 2);
-        drawn.tileX = kx::wrap(wide(kx::wrap(item)) * cell.cx);
+        drawn.tileX = kx::wrap(wide(static_cast<int>(item)) * cell.cx);
     }
     else
     {

@@ -108,32 +108,28 @@ BOOL CKxBitmapButton::SetDefaultButton(BOOL isDefault)
 
 int CKxBitmapButton::SetImageOffset(int offset)
 {
-    m_layout.automatic = true;
-    const int before = std::exchange(m_layout.imageOffset, offset);
-    Repaint();
-    return before;
+    return Place(m_layout.imageOffset, offset, true);
 }
 
 int CKxBitmapButton::SetTextOffset(int offset)
 {
-    m_layout.automatic = true;
-    const int before = std::exchange(m_layout.textOffset, offset);
-    Repaint();
-    return before;
+    return Place(m_layout.textOffset, offset, true);
 }
 
 CPoint CKxBitmapButton::SetImagePos(CPoint position)
 {
-    m_layout.automatic = false;
-    const CPoint before = std::exchange(m_layout.imagePosition, position);
-    Repaint();
-    return before;
+    return Place(m_layout.imagePosition, position, false);
 }
 
 CPoint CKxBitmapButton::SetTextPos(CPoint position)
 {
-    m_layout.automatic = false;
-    const CPoint before = std::exchange(m_layout.textPosition, position);
+    return Place(m_layout.textPosition, position, false);
+}
+
+template <class Value> Value CKxBitmapButton::Place(Value& setting, Value value, bool automatic)
+{
+    m_layout.automatic = automatic;
+    const Value before = std::exchange(setting, value);
     Repaint();
     return before;
 }

@@ -97,6 +97,7 @@ BOOL CKxButtonCombo::CreateFace(const CRect& rect, CWnd* parent, UINT id, bool i
     m_face.isStatic = isStatic;
     m_parent = parent->m_hWnd;
     m_id = id;
+    m_elementNumber = INT_MAX;
     return CreateEx(0, nullptr, nullptr, faceStyle, rect, parent, id);
 }
 

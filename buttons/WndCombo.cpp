@@ -44,7 +44,10 @@ BEGIN_MESSAGE_MAP(CWndCombo, CWnd)
 END_MESSAGE_MAP()
 // clang-format on
 
-CWndCombo::CWndCombo() : m_owner(nullptr), m_background(::GetSysColor(COLOR_BTNFACE)), m_current(0) {}
+CWndCombo::CWndCombo()
+    : m_owner(nullptr), m_ownerWindow(nullptr), m_background(::GetSysColor(COLOR_BTNFACE)), m_current(0)
+{
+}
 
 CWndCombo::~CWndCombo()
 {
@@ -89,6 +92,7 @@ BOOL CWndCombo::CreateHidden(CKxButtonCombo* owner, CPoint corner)
     m_font.DeleteObject();
     m_captions.RemoveAll();
     m_owner = owner;
+    m_ownerWindow = owner->m_hWnd;
     m_current = 0;
     return CreateEx(0, nullptr, nullptr, paletteStyle, corner.x, corner.y, 0, 0, owner->m_hWnd, nullptr);
 }
@@ -154,8 +158,13 @@ void CWndCombo::Cancel()
     if (!here)
         return;
     m_current = none;
-    if (m_owner != nullptr)
-        m_owner->UnpressRightButton();
+    if (CKxButtonCombo* const owner = Owner())
+        owner->UnpressRightButton();
+}
+
+CKxButtonCombo* CWndCombo::Owner() const
+{
+    return CWnd::FromHandlePermanent(m_ownerWindow) == m_owner ? m_owner : nullptr;
 }
 
 // ---- Mouse, keys, activation
@@ -163,10 +172,11 @@ void CWndCombo::Cancel()
 void CWndCombo::OnLButtonUp(UINT flags, CPoint point)
 {
     const Surviving here(*this);
-    if (m_current != none && m_owner != nullptr)
+    CKxButtonCombo* const owner = m_current == none ? nullptr : Owner();
+    if (owner != nullptr)
     {
-        const long item = m_layout.hasTiles ? m_current : static_cast<long>(m_owner->ColorOfIndex(m_current));
-        m_owner->OnItemSelected(item, m_current);
+        const long item = m_layout.hasTiles ? m_current : static_cast<long>(owner->ColorOfIndex(m_current));
+        owner->OnItemSelected(item, m_current);
         if (!here)
             return;
         m_current = none;
@@ -212,13 +222,14 @@ void CWndCombo::OnLButtonDblClk(UINT flags, CPoint point)
 void CWndCombo::OnKillFocus(CWnd* newWindow)
 {
     CWnd::OnKillFocus(newWindow);
-    if (m_owner == nullptr || m_owner->m_hWnd == nullptr)
+    CKxButtonCombo* const owner = Owner();
+    if (owner == nullptr)
         return;
     CRect face;
     CPoint cursor;
-    m_owner->GetWindowRect(&face);
+    owner->GetWindowRect(&face);
     if (::GetCursorPos(&cursor) && !face.PtInRect(cursor))
-        m_owner->UnpressRightButton();
+        owner->UnpressRightButton();
 }
 
 void CWndCombo::OnKeyDown(UINT /*key*/, UINT /*repeat*/, UINT /*flags*/)
@@ -275,8 +286,9 @@ void CWndCombo::DrawCell(CDC& dc, const ButtonComboPalette::Cell& cell)
         if (m_layout.hasTiles)
             DrawItem(dc, cell.rect, cell.index);
         dc.Draw3dRect(&cell.rect, ::GetSysColor(COLOR_BTNSHADOW), ::GetSysColor(COLOR_BTNHIGHLIGHT));
-        if (!m_layout.hasTiles && m_owner != nullptr)
-            dc.FillSolidRect(ButtonComboPalette::ColorRect(cell.rect), m_owner->ColorOfIndex(cell.index));
+        const CKxButtonCombo* const owner = m_layout.hasTiles ? nullptr : Owner();
+        if (owner != nullptr)
+            dc.FillSolidRect(ButtonComboPalette::ColorRect(cell.rect), owner->ColorOfIndex(cell.index));
     }
     if (cell.current)
     {

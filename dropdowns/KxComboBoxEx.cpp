@@ -2,6 +2,7 @@
 #include "oxa/dropdowns/KxComboBoxEx.h"
 
 #include "../frame/SavedContext.h"
+#include "../frame/Surviving.h"
 #include "ImageComboItem.h"
 
 #include <memory>
@@ -65,6 +66,37 @@ void drawImage(CDC& dc, HIMAGELIST images, const ComboItemPicture::Image& image)
     if (icon != nullptr)
         ::DrawStateW(dc.m_hDC, nullptr, nullptr, reinterpret_cast<LPARAM>(icon.get()), 0, x, y, 0, 0,
                      DST_ICON | DSS_DISABLED);
+}
+
+/// Keeps the closing of the list from a control's parent, who has heard of it, while this lives.
+class ClosingHeard
+{
+public:
+    ClosingHeard(HWND parent, HWND control) : m_parent(parent), m_control(control)
+    {
+        ::SetWindowSubclass(parent, onMessage, id(), id());
+    }
+    ~ClosingHeard() { ::RemoveWindowSubclass(m_parent, onMessage, id()); }
+    ClosingHeard(const ClosingHeard&) = delete;
+    ClosingHeard& operator=(const ClosingHeard&) = delete;
+
+private:
+    UINT_PTR id() const { return reinterpret_cast<UINT_PTR>(this); }
+    static LRESULT CALLBACK onMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR data)
+    {
+        const auto& self = *reinterpret_cast<const ClosingHeard*>(data);
+        const bool heard =
+            message == WM_COMMAND && HIWORD(wParam) == CBN_CLOSEUP && reinterpret_cast<HWND>(lParam) == self.m_control;
+        return heard ? 0 : ::DefSubclassProc(window, message, wParam, lParam);
+    }
+
+    HWND m_parent;
+    HWND m_control;
+};
+
+bool isOfThisThread(HWND window)
+{
+    return window != nullptr && ::GetWindowThreadProcessId(window, nullptr) == ::GetCurrentThreadId();
 }
 
 void draw(CDC& dc, const ComboItemPicture& picture, const CRect& rect, HIMAGELIST images, const CString& text)
@@ -156,6 +188,25 @@ int CKxComboBoxEx::OnCreate(LPCREATESTRUCT lpCreateStruct)
     if (bar != nullptr)
         SetDlgBarParent(bar);
     return result;
+}
+
+// The platform tells the parent that the list closes, and then works on with a control that may be gone. So the parent is
+// told here, and the platform only works on when there is still a control.
+BOOL CKxComboBoxEx::OnCommand(WPARAM wParam, LPARAM lParam)
+{
+    const Surviving here(*this);
+    if (CComboBoxEx::OnCommand(wParam, lParam) || !here)
+        return TRUE;
+    const HWND control = m_hWnd;
+    const HWND parent = ::GetParent(control);
+    if (HIWORD(wParam) != CBN_CLOSEUP || !isOfThisThread(parent))
+        return FALSE;
+    ::SendMessageW(parent, WM_COMMAND, wParam, reinterpret_cast<LPARAM>(control));
+    if (!here)
+        return TRUE;
+    const ClosingHeard heard(parent, control);
+    Default();
+    return TRUE;
 }
 
 HBRUSH CKxComboBoxEx::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor)

@@ -64,6 +64,13 @@ constexpr std::array notifyCodes = {
     Name{static_cast<UINT>(HDN_TRACKW), L"HDN_TRACK"},
     Name{static_cast<UINT>(HDN_ENDTRACKW), L"HDN_ENDTRACK"},
     Name{static_cast<UINT>(NM_RELEASEDCAPTURE), L"NM_RELEASEDCAPTURE"},
+    Name{static_cast<UINT>(CBEN_INSERTITEM), L"CBEN_INSERTITEM"},
+    Name{static_cast<UINT>(CBEN_DELETEITEM), L"CBEN_DELETEITEM"},
+    Name{static_cast<UINT>(CBEN_BEGINEDIT), L"CBEN_BEGINEDIT"},
+    Name{static_cast<UINT>(CBEN_ENDEDITA), L"CBEN_ENDEDIT"},
+    Name{static_cast<UINT>(CBEN_ENDEDITW), L"CBEN_ENDEDIT"},
+    Name{static_cast<UINT>(CBEN_DRAGBEGINA), L"CBEN_DRAGBEGIN"},
+    Name{static_cast<UINT>(CBEN_DRAGBEGINW), L"CBEN_DRAGBEGIN"},
     Name{static_cast<UINT>(LVN_ITEMCHANGING), L"LVN_ITEMCHANGING"},
     Name{static_cast<UINT>(LVN_ITEMCHANGED), L"LVN_ITEMCHANGED"},
     Name{static_cast<UINT>(LVN_DELETEALLITEMS), L"LVN_DELETEALLITEMS"},
@@ -84,7 +91,7 @@ CString nameOfCommand(UINT code, HWND control)
 {
     wchar_t name[32] = L"";
     GetClassNameW(control, name, 32);
-    if (_wcsicmp(name, L"ComboBox") == 0)
+    if (_wcsicmp(name, L"ComboBox") == 0 || _wcsicmp(name, WC_COMBOBOXEX) == 0)
         return find(comboCodes, code, L"CBN");
     if (_wcsicmp(name, L"Edit") == 0)
         return find(editCodes, code, L"EN");
@@ -99,8 +106,8 @@ CString nameOfCommand(UINT code, HWND control)
 bool isPainting(UINT code)
 {
     return code == static_cast<UINT>(NM_CUSTOMDRAW) || code == static_cast<UINT>(LVN_GETDISPINFOW) ||
-           code == static_cast<UINT>(LVN_ODCACHEHINT) || code == static_cast<UINT>(NM_SETCURSOR) ||
-           code == static_cast<UINT>(TVN_DELETEITEMW); // one a row
+           code == static_cast<UINT>(CBEN_GETDISPINFOW) || code == static_cast<UINT>(LVN_ODCACHEHINT) ||
+           code == static_cast<UINT>(NM_SETCURSOR) || code == static_cast<UINT>(TVN_DELETEITEMW); // one a row
 }
 } // namespace
 

@@ -70,6 +70,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    template <class Value> Value Place(Value& setting, Value value, bool automatic);
     void Repaint();
     BitmapButtonPicture PictureOf(const DRAWITEMSTRUCT& item, const CDC& dc, const CString& caption) const;
     void DrawFace(CDC& dc, const BitmapButtonPicture& picture) const;

@@ -24,18 +24,13 @@ public:
     CWndCombo& operator=(const CWndCombo&) = delete;
     ~CWndCombo() override;
 
-    /// Makes the hidden window of a palette of colours.
-    /// @param owner    hears of the choice, has a window, and outlives this one
+    /// Makes the hidden window of a palette of colours. Grid, cell and captions are those of CKxButtonCombo::Create.
+    /// @param owner    hears of the choice, and has a window; without it the palette has no colours and tells nobody
     /// @param corner   the left top corner, in screen pixels
-    /// @param grid     columns and rows
-    /// @param cell     width and height of a cell in pixels, without its frame
-    /// @param captions one for each cell, divided by ";"; empty for a palette without captions
     /// @return FALSE when there is a window already, or none could be made
     BOOL CreateColors(CKxButtonCombo* owner, CPoint corner, CSize grid, CSize cell, const CString& captions);
-    /// The same for a palette of tiles.
-    /// @param bitmapId a bitmap of the module chain with the tiles side by side; what is 0xC0C0C0 in it becomes the face
-    ///                 colour (up to 8 bits a pixel)
-    /// @param count    how many tiles it has; FALSE below 1
+    /// The same for a palette of tiles; FALSE too for a count below 1. What is 0xC0C0C0 in the bitmap becomes the face
+    /// colour (up to 8 bits a pixel).
     BOOL CreateTiles(CKxButtonCombo* owner, CPoint corner, CSize grid, UINT bitmapId, int count,
                      const CString& captions);
 
@@ -74,9 +69,11 @@ private:
     void DrawPalette(CDC& dc, const CRect& client, CSize seen);
     void DrawCell(CDC& dc, const ButtonComboPalette::Cell& cell);
     void DrawCaption(CDC& dc, const CRect& client);
+    CKxButtonCombo* Owner() const;
 
     ButtonComboPalette m_layout; // grid, cell, count and form
     CKxButtonCombo* m_owner;
+    HWND m_ownerWindow; // by which an owner that is gone is noticed
     COLORREF m_background;
     int m_current;
     CBitmap m_tiles;

@@ -13,6 +13,8 @@
 ///
 /// In a `CKxDialogBarEx`, or in a child of one, the inner controls take the bar's colours. The bar is looked for when the
 /// window is created; a control of a dialog template is attached later, and is told by `SetDlgBarParent`.
+///
+/// It sends the notifications of CComboBoxEx and no others. The parent may destroy the control in each of them.
 class OXA_API CKxComboBoxEx : public CComboBoxEx
 {
     DECLARE_DYNAMIC(CKxComboBoxEx)
@@ -36,6 +38,7 @@ public:
     void AddFormatToolTip(CString text);
 
 protected:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
     afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct);

@@ -86,7 +86,7 @@ TEST(BitmapButton, positions_are_kept_and_their_centred_coordinates_computed)
     }
 }
 
-// An offset of -5 puts the image at -1, which means centred.
+// An offset of -1 puts the image at -1, which means centred.
 TEST(BitmapButton, a_computed_position_of_minus_one_is_centred_too)
 {
     BitmapButtonLayout layout = withImage();

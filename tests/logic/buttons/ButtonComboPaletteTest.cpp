@@ -165,12 +165,21 @@ TEST(ButtonComboPalette, items_beyond_the_count_are_not_drawn)
     const struct
     {
         long item;
-        bool drawn;
-    } rows[] = {{-1, false}, {0, true}, {6, true}, {7, false}, {0x00FFFFFF, false}, {-2, true}};
+        bool tile;  ///< below 0 there is none in the strip
+        bool color; ///< any number but -1 up to the count
+    } rows[] = {{-1, false, false},
+                {0, true, true},
+                {6, true, true},
+                {7, false, false},
+                {-2, false, true},
+                {LONG_MIN, false, true},
+                {-1073741824, false, true},
+                {0x00FFFFFF, false, false},
+                {LONG_MAX, false, false}};
     for (const auto& row : rows)
     {
-        EXPECT_EQ(tiles(6).Item(CRect(0, 0, 20, 20), row.item).tile.has_value(), row.drawn) << row.item;
-        EXPECT_EQ(colors().Item(CRect(0, 0, 20, 20), row.item).fill.has_value(), row.drawn) << row.item;
+        EXPECT_EQ(tiles(6).Item(CRect(0, 0, 20, 20), row.item).tile.has_value(), row.tile) << row.item;
+        EXPECT_EQ(colors().Item(CRect(0, 0, 20, 20), row.item).fill.has_value(), row.color) << row.item;
     }
 }
 

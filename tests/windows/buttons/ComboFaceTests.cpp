@@ -146,6 +146,17 @@ TEST_F(ComboForms, only_the_bitmap_form_limits_what_the_parent_hears_of)
     EXPECT_EQ(fixed.GetElementNumber(), INT_MAX);
 }
 
+TEST_F(ComboForms, made_again_in_a_form_without_limit_it_has_none)
+{
+    MessageRecorder parent(host, [](UINT message) { return message == WM_KX_BUTTONCOMBO_SELECT; });
+    ASSERT_TRUE(combo.Create(comboPlace, CSize(2, 2), IDB_TILES, 4, &host, comboId, L""));
+    combo.DestroyWindow();
+    ASSERT_TRUE(combo.Create(comboPlace, CSize(2, 2), CSize(10, 8), &host, comboId, L""));
+    EXPECT_EQ(combo.GetElementNumber(), INT_MAX);
+    combo.OnItemSelected(0xFFFFFF, 3);
+    EXPECT_EQ(parent.all(), (std::vector<RecordedMessage>{{WM_KX_BUTTONCOMBO_SELECT, comboId, 0xFFFFFF}}));
+}
+
 // ---- The face
 
 TEST_F(ComboFace, shows_the_chosen_tile_beside_the_arrow)
@@ -166,7 +177,8 @@ TEST_F(ComboFace, shows_the_chosen_tile_beside_the_arrow)
 
 TEST_F(ComboFace, shows_nothing_for_an_item_that_has_no_tile)
 {
-    for (const long item : {4L, 5L, -1L, -2L, 1000000000L, LONG_MAX})
+    // The last three, times the width of a tile, would come around to a place within the strip.
+    for (const long item : {4L, 5L, -1L, -2L, 1000000000L, LONG_MAX, LONG_MIN, LONG_MIN / 2, LONG_MIN + 1})
     {
         show(item);
         EXPECT_EQ(comparedWith([](const Brush& brush) { brush.face(); }), "") << item;

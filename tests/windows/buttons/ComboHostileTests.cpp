@@ -5,7 +5,7 @@
 
 #include "ComboHost.h"
 #include "support/Guarded.h"
-#include "support/LeakCounters.h"
+#include "support/HandleBalance.h"
 
 namespace
 {
@@ -196,6 +196,25 @@ TEST(HostileButtonCombo, takes_every_call_without_a_window)
     EXPECT_EQ(palette.GetCurrent(), 0);
 }
 
+TEST(HostileButtonCombo, a_palette_may_outlive_its_owner)
+{
+    ButtonHost host;
+    CWndCombo palette;
+    {
+        Guarded<CKxButtonCombo>* const owner = new Guarded<CKxButtonCombo>;
+        ASSERT_TRUE(owner->Create(comboPlace, CSize(2, 2), IDB_TILES, 4, &host, comboId, L""));
+        ASSERT_TRUE(palette.CreateColors(owner, CPoint(300, 300), CSize(2, 2), CSize(10, 8), L"a;b;c;d"));
+        delete owner;
+    }
+    palette.Place(CPoint(300, 300), true);
+    for (const UINT message : {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_KILLFOCUS, WM_LBUTTONUP, WM_KEYDOWN, WM_ACTIVATEAPP})
+        palette.SendMessage(message, 0, MAKELPARAM(5, 5));
+    palette.Place(CPoint(300, 300), true);
+    EXPECT_EQ(Pixels(palette).at(6, 6), ::GetSysColor(COLOR_BTNFACE)) << "nobody knows its colours";
+    palette.SendMessage(WM_KEYDOWN, VK_ESCAPE, 0);
+    EXPECT_FALSE(palette.IsWindowVisible()) << "a key closes it all the same";
+}
+
 TEST(HostileButtonCombo, a_palette_that_was_made_as_a_plain_window_is_empty)
 {
     ButtonHost host;
@@ -280,37 +299,73 @@ TEST(HostileButtonCombo, takes_any_rectangle)
     EXPECT_TRUE(::IsWindow(host));
 }
 
+TEST(HostileButtonCombo, a_strip_narrower_than_its_tiles_has_tiles_of_no_width)
+{
+    ButtonHost host;
+    CKxButtonCombo combo;
+    ASSERT_TRUE(combo.Create(comboPlace, CSize(3, 1), IDB_TILES, 49, &host, comboId, L"")); // 48 pixels
+    EXPECT_EQ(Pixels(combo).difference(expectedPicture(comboClient, [](const Brush& brush) { brush.face(); })), "");
+    press(combo, onStrip);
+    CRect client;
+    paletteOf(combo)->GetClientRect(&client);
+    EXPECT_EQ(client.Width(), 30) << "3 * (0 + 9) + 3";
+    hover(*paletteOf(combo), CPoint(14, 10)); // 2 and 10 for the first, up to 20 for the second
+    release();
+    EXPECT_EQ(combo.GetSelectedItem(), 1);
+}
+
+TEST(HostileButtonCombo, takes_captions_of_a_million_characters)
+{
+    const std::wstring million(1 << 20, L'w');
+    const std::wstring dividers(1 << 20, L';');
+    for (const std::wstring& captions : {million, dividers, million + L";" + million})
+    {
+        TileCombo made;
+        ASSERT_TRUE(made.create(CSize(2, 1), captions.c_str()));
+        press(made.combo, onStrip);
+        hover(made.palette(), CPoint(10, 10));
+        EXPECT_EQ(Pixels(made.palette()).at(12, 11), tileColor(0)) << "it is painted";
+        release();
+        EXPECT_EQ(made.combo.GetSelectedItem(), 0);
+    }
+}
+
+TEST(HostileButtonCombo, has_room_for_a_hundred_thousand_cells)
+{
+    ButtonHost host;
+    CKxButtonCombo combo;
+    ASSERT_TRUE(combo.Create(comboPlace, CSize(1000, 100), CSize(10, 8), &host, comboId, L""));
+    CWndCombo* const palette = paletteOf(combo);
+    palette->Place(CPoint(0, 0), true);
+    palette->SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 895)); // row 89: cells of 8, 10 apart for the test
+    EXPECT_EQ(palette->GetCurrent(), 89000);
+    EXPECT_FALSE(palette->GetUpdateRect(nullptr)) << "it is painted";
+    palette->SendMessage(WM_LBUTTONUP, 0, 0);
+    EXPECT_EQ(combo.GetSelectedItem(), 0) << "black: the palette of the system has 255";
+}
+
 TEST(HostileButtonCombo, leaves_no_handle_after_two_thousand_lives)
 {
     ButtonHost host;
-    const auto live = [&](int round)
-    {
-        CKxButtonCombo combo;
-        if (round % 3 == 0)
-            combo.Create(comboPlace, CSize(2, 2), IDB_TILES, 4, &host, comboId, L"a;b;c;d");
-        else if (round % 3 == 1)
-            combo.Create(comboPlace, CSize(3, 2), CSize(10, 8), &host, comboId, L"a;b");
-        else
-            combo.CreateStatic(comboPlace, IDB_TILES, &host, comboId);
-        combo.UpdateWindow();
-        combo.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(7, 10));
-        if (CWndCombo* const palette = paletteOf(combo))
-        {
-            palette->UpdateWindow();
-            palette->SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(10, 5));
-            palette->SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(10, 5));
-        }
-        combo.EnableWindow(FALSE);
-        combo.UpdateWindow();
-    };
-    for (int i = 0; i < 30; ++i)
-        live(i);
-    const int objects = gdiObjectCount();
-    const int windows = windowCount();
-    const int icons = menuAndIconCount();
-    for (int i = 0; i < 2000; ++i)
-        live(i);
-    EXPECT_EQ(gdiObjectCount(), objects);
-    EXPECT_EQ(windowCount(), windows);
-    EXPECT_EQ(menuAndIconCount(), icons);
+    expectNoHandleLeft(2000,
+                       [&](int round)
+                       {
+                           CKxButtonCombo combo;
+                           if (round % 3 == 0)
+                               combo.Create(comboPlace, CSize(2, 2), IDB_TILES, 4, &host, comboId, L"a;b;c;d");
+                           else if (round % 3 == 1)
+                               combo.Create(comboPlace, CSize(3, 2), CSize(10, 8), &host, comboId, L"a;b");
+                           else
+                               combo.CreateStatic(comboPlace, IDB_TILES, &host, comboId);
+                           combo.UpdateWindow();
+                           combo.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(7, 10));
+                           if (CWndCombo* const palette = paletteOf(combo))
+                           {
+                               palette->UpdateWindow();
+                               palette->SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(10, 5));
+                               palette->SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(10, 5));
+                           }
+                           combo.EnableWindow(FALSE);
+                           combo.UpdateWindow();
+                       });
 }

@@ -297,6 +297,53 @@ TEST_F(ComboMouse, a_release_without_a_current_cell_leaves_the_palette_open)
     expectClosed();
 }
 
+// What happens to the face does not concern an open palette, which has the mouse.
+TEST_F(ComboMouse, an_open_palette_outlasts_what_its_host_does_to_the_face)
+{
+    const std::function<void()> deeds[] = {
+        [&] { combo.EnableWindow(FALSE); },
+        [&] { combo.EnableWindow(TRUE); },
+        [&] { combo.ShowWindow(SW_HIDE); },
+        [&] { combo.ShowWindow(SW_SHOW); },
+        [&] { combo.MoveWindow(CRect(20, 30, 60, 50)); },
+        [&] { combo.MoveWindow(comboPlace); },
+        [&] { ::ReleaseCapture(); },
+        [&] { combo.SetFocus(); },
+    };
+    for (const auto& deed : deeds)
+    {
+        combo.EnableWindow(TRUE);
+        combo.ShowWindow(SW_SHOW);
+        parent->clear();
+        press(combo, onStrip);
+        hover(palette(), CPoint(10, 10));
+        const CPoint cell = screenPoint(palette(), CPoint(30, 30));
+        moveTo(screenPoint(combo, onBody)); // where the loss of the focus closes nothing
+        pumpFor(10);
+        deed();
+        ASSERT_TRUE(open());
+        moveTo(cell);
+        pumpFor(10);
+        release();
+        EXPECT_EQ(told(), Items{3});
+        EXPECT_FALSE(open());
+        EXPECT_EQ(::GetCapture(), nullptr);
+    }
+}
+
+// Kept on purpose: it keeps the mouse, so that the release still chooses.
+TEST_F(ComboMouse, a_palette_that_lost_the_focus_keeps_the_mouse)
+{
+    press(combo, onStrip);
+    hover(palette(), CPoint(30, 10));
+    host.SetFocus();
+    EXPECT_FALSE(open());
+    EXPECT_EQ(::GetCapture(), palette().m_hWnd);
+    release();
+    EXPECT_EQ(told(), Items{1});
+    EXPECT_EQ(::GetCapture(), nullptr);
+}
+
 TEST_F(ComboMouse, the_host_may_choose_and_hears_of_it_up_to_the_element_number)
 {
     const struct

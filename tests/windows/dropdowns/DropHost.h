@@ -3,6 +3,7 @@
 #include <afxwin.h>
 #include <functional>
 #include <initializer_list>
+#include <memory>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -102,6 +103,31 @@ private:
         return control != nullptr ? reinterpret_cast<LRESULT>(colours) : brush;
     }
 };
+
+/// The ways of a control to end in a handler of its host: destroyed (0), deleted (1), with the host (2).
+template <class Control> void endControl(int way, std::unique_ptr<Control>& control, DropHost& host)
+{
+    if (way == 0)
+        control->DestroyWindow();
+    else if (way == 1)
+        control.reset();
+    else
+        host.DestroyWindow();
+}
+
+/// Two thousand lives of a control in a host: used, and then destroyed or just deleted by turns.
+template <class Control, class Use> void expectTwoThousandLivesLeaveNoHandle(const Use& use)
+{
+    DropHost host;
+    expectNoHandleLeft(2000,
+                       [&](int round)
+                       {
+                           Control control;
+                           use(control, host, round);
+                           if (round % 2 == 0)
+                               control.DestroyWindow();
+                       });
+}
 
 inline std::wstring textOf(const CWnd& window)
 {

@@ -251,6 +251,7 @@ TEST_F(BitmapCombo, shows_a_tip_and_passes_its_mouse_messages_to_it)
 TEST_F(BitmapCombo, has_no_window_and_does_nothing)
 {
     OpenBitmapCombo none;
+    EXPECT_NE(none.tip().m_hWnd, nullptr) << "which is made with the object";
     none.AddFormatToolTip(L"tip");
     EXPECT_EQ(none.tip().GetToolCount(), 0);
     EXPECT_FALSE(none.PreTranslateMessage(nullptr));
@@ -289,22 +290,49 @@ TEST_F(BitmapCombo, may_lose_its_parent_in_each_notification)
     }
 }
 
-void useOnce(DropHost& host, int round)
+TEST_F(BitmapCombo, takes_rows_of_any_height)
 {
-    CKxBitmapComboBox combo;
+    for (const int height : {INT_MIN, INT_MIN + 3, -1000, -5, -4, -3, 0, 70000, INT_MAX - 4, INT_MAX})
+    {
+        SCOPED_TRACE(height);
+        ::CreateWindowExW(0, L"COMBOBOX", L"", style, 20, 60, 200, 200, host.m_hWnd, reinterpret_cast<HMENU>(8),
+                          AfxGetInstanceHandle(), nullptr);
+        OpenBitmapCombo other;
+        ASSERT_TRUE(other.SubclassDlgItem(height, 8, &host));
+        for (int i = 0; i < 3; ++i)
+            EXPECT_EQ(other.AddBitmap(IDB_BLOCK), i);
+        other.SetFocus();
+        other.ShowDropDown(TRUE);
+        pumpFor(0);
+        key(VK_DOWN);
+        EXPECT_EQ(other.GetCurSel(), 0);
+        other.DestroyWindow();
+    }
+}
+
+TEST_F(BitmapCombo, holds_a_hundred_thousand_rows)
+{
+    for (int i = 0; i < 100000; ++i)
+        ASSERT_EQ(combo->AddBitmap(IDB_BLOCK), i);
+    EXPECT_EQ(combo->GetCount(), 100000);
+    EXPECT_EQ(combo->InsertBitmap(11, 65535), 65535);
+    EXPECT_EQ(combo->GetItemData(65535), 11U);
+    combo->SetCurSel(100000);
+    EXPECT_EQ(pixelsOf(combo->m_hWnd, red), 16) << "the last one, in the field";
+}
+
+void useOnce(CKxBitmapComboBox& combo, DropHost& host, int round)
+{
     combo.Create(style, CRect(20, 20, 220, 200), &host, 7);
     combo.AddFormatToolTip(L"tip");
     combo.AddBitmap(IDB_BLOCK);
     combo.AddBitmap(60000);
     combo.SetCurSel(round % 2);
     combo.UpdateWindow();
-    if (round % 2 == 0)
-        combo.DestroyWindow();
 }
 
 TEST(BitmapComboLifetime, two_thousand_boxes_leave_no_handle)
 {
-    DropHost host;
-    expectNoHandleLeft(2000, [&](int round) { useOnce(host, round); });
+    expectTwoThousandLivesLeaveNoHandle<CKxBitmapComboBox>(useOnce);
 }
 } // namespace

@@ -260,12 +260,7 @@ TEST_P(ComboNotification, may_end_the_box_or_its_parent)
     {
         if (heard != code || !::IsWindow(window))
             return;
-        if (way == 0)
-            combo->DestroyWindow();
-        else if (way == 1)
-            combo.reset();
-        else
-            host.DestroyWindow();
+        endControl(way, combo, host);
     };
     combo->SetFocus();
     if (::IsWindow(window))
@@ -295,15 +290,7 @@ TEST_F(WatchedCombo, may_end_in_each_message_to_its_owner)
             mortal->Create(withEdit, CRect(20, 20, 220, 200), &other, 7);
             mortal->m_edit.SubclassWindow(::GetWindow(mortal->m_hWnd, GW_CHILD));
             const HWND window = mortal->m_hWnd;
-            other.onHear = [&](const Heard&)
-            {
-                if (how == 0)
-                    mortal->DestroyWindow();
-                else if (how == 1)
-                    mortal.reset();
-                else
-                    other.DestroyWindow();
-            };
+            other.onHear = [&](const Heard&) { endControl(how, mortal, other); };
             ::SendMessageW(::GetWindow(window, GW_CHILD), message, message == WM_CHAR ? L'a' : MK_LBUTTON, 0);
             EXPECT_FALSE(::IsWindow(window)) << message << " " << how;
             EXPECT_EQ(::GetCapture(), nullptr) << message << " " << how;
@@ -358,9 +345,8 @@ TEST_F(WatchedCombo, has_no_window_and_does_nothing)
     EXPECT_EQ(none.GetCount(), 0);
 }
 
-void useOnce(DropHost& host, int round)
+void useOnce(CKxComboBox& combo, DropHost& host, int round)
 {
-    CKxComboBox combo;
     combo.Create(round % 3 == 0 ? listOnly : withEdit, CRect(20, 20, 220, 200), &host, 7);
     combo.AddString(L"alpha");
     if (round % 3 != 0)
@@ -370,13 +356,10 @@ void useOnce(DropHost& host, int round)
     combo.SendMessage(WM_CHAR, L'a', 1);
     combo.SetCurSel(0);
     combo.ClearControl();
-    if (round % 2 == 0)
-        combo.DestroyWindow();
 }
 
 TEST(WatchedComboLifetime, two_thousand_boxes_leave_no_handle)
 {
-    DropHost host;
-    expectNoHandleLeft(2000, [&](int round) { useOnce(host, round); });
+    expectTwoThousandLivesLeaveNoHandle<CKxComboBox>(useOnce);
 }
 } // namespace

@@ -20,6 +20,7 @@ class OpenImageCombo : public CKxComboBoxEx
 public:
     CKxToolTip& tip() { return m_toolTip; }
     const CKxDialogBarEx* bar() const { return m_dialogBar; }
+    bool showsToolTips() const { return (m_nFlags & WF_TOOLTIPS) != 0; }
 };
 
 /// Three pictures of 16 by 16, each of one colour: red, green, blue.
@@ -155,30 +156,25 @@ TEST_F(ImageCombo, draws_a_row_with_its_image_and_indent)
               "");
 }
 
-TEST_F(ImageCombo, lights_the_selected_row)
+TEST_F(ImageCombo, lights_the_selected_row_and_blends_the_selected_image_of_the_focused_one)
 {
-    EXPECT_EQ(drawn(1, ODS_SELECTED)
-                  .difference(byHand(
-                      [this](HDC dc)
-                      {
-                          imageAt(dc, 0, 16, ILD_TRANSPARENT);
-                          colors(dc, COLOR_HIGHLIGHTTEXT, COLOR_HIGHLIGHT);
-                          textAt(dc, 16, L"second");
-                      })),
-              "");
-}
-
-TEST_F(ImageCombo, blends_the_selected_image_of_the_focused_row)
-{
-    EXPECT_EQ(drawn(1, ODS_SELECTED | ODS_FOCUS)
-                  .difference(byHand(
-                      [this](HDC dc)
-                      {
-                          imageAt(dc, 1, 16, ILD_SELECTED);
-                          colors(dc, COLOR_HIGHLIGHTTEXT, COLOR_HIGHLIGHT);
-                          textAt(dc, 16, L"second");
-                      })),
-              "");
+    const struct
+    {
+        UINT state;
+        int image;
+        UINT how;
+    } rows[] = {{ODS_SELECTED, 0, ILD_TRANSPARENT}, {ODS_SELECTED | ODS_FOCUS, 1, ILD_SELECTED}};
+    for (const auto& row : rows)
+    {
+        const auto lit = byHand(
+            [&](HDC dc)
+            {
+                imageAt(dc, row.image, 16, row.how);
+                colors(dc, COLOR_HIGHLIGHTTEXT, COLOR_HIGHLIGHT);
+                textAt(dc, 16, L"second");
+            });
+        EXPECT_EQ(drawn(1, row.state).difference(lit), "") << row.state;
+    }
 }
 
 TEST_F(ImageCombo, greys_the_overlay_as_an_image_when_disabled)
@@ -447,7 +443,7 @@ TEST_F(ImageCombo, loses_its_rows_in_any_order)
 
 TEST_F(ImageCombo, may_lose_its_parent_in_each_notification)
 {
-    for (const int code : {CBN_DROPDOWN, CBN_SELCHANGE, CBN_CLOSEUP})
+    for (const int code : {CBN_SETFOCUS, CBN_DROPDOWN, CBN_SELCHANGE, CBN_SELENDOK, CBN_CLOSEUP, CBN_KILLFOCUS})
     {
         DropHost other;
         CKxComboBoxEx mortal;
@@ -455,24 +451,62 @@ TEST_F(ImageCombo, may_lose_its_parent_in_each_notification)
         mortal.SetImageList(&pictures);
         addItem(mortal, L"first");
         addItem(mortal, L"second");
-        other.onCommand = [&](int heard)
-        {
-            if (heard == code)
-                other.DestroyWindow();
-        };
-        mortal.GetComboBoxCtrl()->SetFocus();
-        for (const WORD one : std::initializer_list<WORD>{VK_F4, VK_DOWN, VK_RETURN})
-        {
-            if (mortal.m_hWnd != nullptr)
-                key(one);
-        }
-        EXPECT_EQ(mortal.m_hWnd, nullptr) << code;
+        expectEndedAt(code, other, mortal);
     }
 }
 
-void useOnce(DropHost& host, CImageList& pictures, int round)
+TEST_F(ImageCombo, takes_items_of_extreme_numbers)
 {
-    CKxComboBoxEx combo;
+    const auto untouched = byHand([](HDC) {});
+    for (const int number : {INT_MIN, -3, INT_MAX})
+    {
+        COMBOBOXEXITEM item = {};
+        item.mask = CBEIF_IMAGE | CBEIF_SELECTEDIMAGE | CBEIF_OVERLAY | CBEIF_INDENT;
+        item.iItem = 0;
+        item.iImage = item.iSelectedImage = item.iOverlay = item.iIndent = number;
+        combo->SetItem(&item);
+        drawn(0, ODS_FOCUS);
+        combo->EnableWindow(FALSE);
+        drawn(0, 0);
+        combo->EnableWindow(TRUE);
+    }
+    EXPECT_EQ(drawn(static_cast<UINT>(INT_MIN), 0).difference(untouched), drawn(77, 0).difference(untouched))
+        << "as no row behind the end";
+    EXPECT_EQ(drawn(2, 0).difference(byHand(
+                  [this](HDC dc)
+                  {
+                      imageAt(dc, 0, 26, ILD_TRANSPARENT);
+                      textAt(dc, 26, L"third");
+                  })),
+              "")
+        << "the other rows are drawn as ever";
+}
+
+TEST_F(ImageCombo, tells_its_parent_once_that_its_list_closes)
+{
+    const WPARAM closing = MAKEWPARAM(7, CBN_CLOSEUP);
+    MessageRecorder parent(host.m_hWnd, [](UINT message) { return message == WM_COMMAND; });
+    combo->SetCurSel(0);
+    combo->GetComboBoxCtrl()->SetFocus();
+    for (const WORD one : std::initializer_list<WORD>{VK_F4, VK_DOWN, VK_RETURN})
+        key(one);
+    EXPECT_EQ(combo->GetCurSel(), 1);
+    std::vector<RecordedMessage> closed;
+    for (const RecordedMessage& one : parent.all())
+        if (HIWORD(one.wParam) == CBN_CLOSEUP)
+            closed.push_back(one);
+    EXPECT_EQ(closed, (std::vector<RecordedMessage>{{WM_COMMAND, closing, reinterpret_cast<LPARAM>(combo->m_hWnd)}}));
+}
+
+TEST_F(ImageCombo, has_its_tip_before_its_window)
+{
+    OpenImageCombo early;
+    EXPECT_NE(early.tip().m_hWnd, nullptr);
+    EXPECT_TRUE(early.showsToolTips());
+}
+
+void useOnce(CKxComboBoxEx& combo, DropHost& host, CImageList& pictures, int round)
+{
     combo.Create(style, CRect(20, 20, 220, 200), &host, 7);
     combo.SetImageList(&pictures);
     addItem(combo, L"first");
@@ -482,15 +516,13 @@ void useOnce(DropHost& host, CImageList& pictures, int round)
     combo.UpdateWindow();
     combo.EnableWindow(FALSE);
     combo.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_UPDATENOW);
-    if (round % 2 == 0)
-        combo.DestroyWindow();
 }
 
 TEST(ImageComboLifetime, two_thousand_boxes_leave_no_handle)
 {
-    DropHost host;
     CImageList pictures;
     fillPictures(pictures);
-    expectNoHandleLeft(2000, [&](int round) { useOnce(host, pictures, round); });
+    expectTwoThousandLivesLeaveNoHandle<CKxComboBoxEx>([&](CKxComboBoxEx& combo, DropHost& host, int round)
+                                                       { useOnce(combo, host, pictures, round); });
 }
 } // namespace

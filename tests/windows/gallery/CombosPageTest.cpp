@@ -60,6 +60,38 @@ TEST(CombosPage, shows_the_state_of_its_first_column_and_clears_it)
     EXPECT_TRUE(host.says(IDC_COMBOS_STATE, L"\"\"; \"\"; part -1; line -1; colour -1 of 9"));
 }
 
+/// Opens a list by a click on its field and picks its second row by another.
+void pickSecondRow(const CombosHost& host, int id)
+{
+    HWND field = host.control(id);
+    if (const auto inner = reinterpret_cast<HWND>(::SendMessageW(field, CBEM_GETCOMBOCONTROL, 0, 0)))
+        field = inner;
+    COMBOBOXINFO info = {};
+    info.cbSize = sizeof info;
+    ASSERT_TRUE(::GetComboBoxInfo(field, &info)) << id;
+    CRect button(info.rcButton);
+    ::MapWindowPoints(field, nullptr, reinterpret_cast<POINT*>(&button), 2);
+    click(button.CenterPoint());
+    ASSERT_TRUE(waitFor([&] { return ::IsWindowVisible(info.hwndList) != FALSE; })) << id;
+    CRect row;
+    ::SendMessageW(info.hwndList, LB_GETITEMRECT, 1, reinterpret_cast<LPARAM>(&row));
+    ::MapWindowPoints(info.hwndList, nullptr, reinterpret_cast<POINT*>(&row), 2);
+    click(row.CenterPoint());
+    EXPECT_FALSE(::IsWindowVisible(info.hwndList)) << id;
+}
+
+TEST(CombosPage, picks_by_the_mouse_in_each_of_its_lists)
+{
+    CombosHost host;
+    for (const int id :
+         {IDC_COMBOS_COMBO_ENABLED, IDC_COMBOS_IMAGES_ENABLED, IDC_COMBOS_BITMAPS_ENABLED, IDC_COMBOS_COLORS_ENABLED})
+    {
+        pickSecondRow(host, id);
+        EXPECT_EQ(host.selected(id), 1) << id;
+    }
+    EXPECT_TRUE(host.says(IDC_COMBOS_STATE, L"\"HEB 300\"; part 1; line 1; colour 1 of 9: red 0, green 255, blue 0"));
+}
+
 TEST(CombosPage, disables_and_enables_its_first_column)
 {
     CombosHost host;

@@ -49,6 +49,21 @@ TEST_F(PickersPage, picks_nothing_while_the_combos_are_disabled)
     EXPECT_EQ(host.text(IDC_PICK_HATCH_NAME), L"None");
 }
 
+TEST_F(PickersPage, a_key_closes_a_palette_and_nothing_is_picked)
+{
+    CRect face;
+    ::GetWindowRect(host.control(IDC_PICK_HATCH), &face);
+    mouseAt(CPoint(face.left + 7, face.CenterPoint().y), MOUSEEVENTF_LEFTDOWN);
+    const HWND palette = ::GetCapture();
+    EXPECT_TRUE(::IsWindowVisible(palette));
+    moveTo(CPoint(face.left + 10, face.bottom + 10));
+    pumpFor(10);
+    key(VK_ESCAPE);
+    EXPECT_FALSE(::IsWindowVisible(palette));
+    mouseButton(MOUSEEVENTF_LEFTUP);
+    EXPECT_EQ(host.text(IDC_PICK_HATCH_NAME), L"Concrete");
+}
+
 TEST_F(PickersPage, the_button_follows_its_settings)
 {
     CWnd* const button = host.page.GetDlgItem(IDC_TRY_BUTTON);
