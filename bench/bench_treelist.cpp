@@ -1,30 +1,33 @@
-// The rows of the tree list: cells of a row of 50 columns against find and replace on the same packed text; sorting 100,000
-// rows against std::stable_sort with a natural-order comparison of the same texts. Ratios of one run.
+// The rows of the tree list: cells of rows of 10, 50 and 250 columns against find and replace on the same packed text; sorting
+// 1,000, 10,000 and 100,000 rows against std::stable_sort with a natural-order comparison of the same texts; records made, found
+// and destroyed. Ratios of one run, and what one cell or row takes, to see what grows how.
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <random>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "bench/Fastest.h"
 #include "bench/NaturalOrder.h"
 #include "treelist/RowCells.h"
 #include "treelist/RowComparison.h"
+#include "treelist/RowStore.h"
 
 namespace
 {
-constexpr int c_columns = 50;
-constexpr int c_rows = 100000;
 constexpr wchar_t c_separator = 182;
 
 std::size_t g_sum; // keeps the work from being left out
 
 using bench::fastest;
 
-double line(const char* name, double ours, double peers)
+/// `count`: how often the work was done.
+double line(const char* name, double ours, double peers, double count)
 {
-    std::printf("%-44s %9.3f ms %9.3f ms   ratio %.3f\n", name, ours / 1e6, peers / 1e6, ours / peers);
+    std::printf("  %-42s %9.3f ms %9.3f ms   ratio %.3f   one %7.1f ns %7.1f ns\n", name, ours / 1e6, peers / 1e6,
+                ours / peers, ours / count, peers / count);
     return ours / peers;
 }
 
@@ -47,26 +50,26 @@ Span peerCell(const std::wstring& packed, int column)
     return {begin, std::min(packed.find(c_separator, begin), packed.size())};
 }
 
-void benchCells()
+void benchCells(int columns)
 {
     std::wstring packed = cellText(0);
-    for (int column = 1; column < c_columns; ++column)
+    for (int column = 1; column < columns; ++column)
         packed += c_separator + cellText(column);
     CString ours(packed.c_str());
-    constexpr int repeats = 2000;
+    constexpr int works = 100000;
     const double read = fastest(20,
                                 [&]
                                 {
-                                    for (int i = 0; i < repeats * c_columns; ++i)
+                                    for (int i = 0; i < works; ++i)
                                         g_sum += static_cast<std::size_t>(
-                                            treelist::RowCells::Read(ours, c_separator, i % c_columns).GetLength());
+                                            treelist::RowCells::Read(ours, c_separator, i % columns).GetLength());
                                 });
     const double peerRead = fastest(20,
                                     [&]
                                     {
-                                        for (int i = 0; i < repeats * c_columns; ++i)
+                                        for (int i = 0; i < works; ++i)
                                         {
-                                            const Span cell = peerCell(packed, i % c_columns);
+                                            const Span cell = peerCell(packed, i % columns);
                                             const std::wstring text = packed.substr(cell.begin, cell.end - cell.begin);
                                             g_sum += text.size();
                                         }
@@ -76,38 +79,37 @@ void benchCells()
         fastest(20,
                 [&]
                 {
-                    for (int i = 0; i < repeats * c_columns; ++i)
-                        treelist::RowCells::Write(ours, c_separator, i % c_columns, texts[i / c_columns % 2].c_str());
+                    for (int i = 0; i < works; ++i)
+                        treelist::RowCells::Write(ours, c_separator, i % columns, texts[i / columns % 2].c_str());
                 });
-    const double peerWrite =
-        fastest(20,
-                [&]
-                {
-                    for (int i = 0; i < repeats * c_columns; ++i)
-                    {
-                        const Span cell = peerCell(packed, i % c_columns);
-                        packed.replace(cell.begin, cell.end - cell.begin, texts[i / c_columns % 2]);
-                    }
-                });
-    std::printf("%-44s %12s %12s\n", "a row of 50 columns, 2,000 times each cell", "ours", "std::wstring");
-    line("read (RowCells::Read / find, substr)", read, peerRead);
-    line("write (RowCells::Write / find, replace)", write, peerWrite);
+    const double peerWrite = fastest(20,
+                                     [&]
+                                     {
+                                         for (int i = 0; i < works; ++i)
+                                         {
+                                             const Span cell = peerCell(packed, i % columns);
+                                             packed.replace(cell.begin, cell.end - cell.begin, texts[i / columns % 2]);
+                                         }
+                                     });
+    std::printf("cells of a row of %d columns, 100,000 times: ours, std::wstring\n", columns);
+    line("read (RowCells::Read / find, substr)", read, peerRead, works);
+    line("write (RowCells::Write / find, replace)", write, peerWrite, works);
 }
 
-std::vector<std::wstring> makeTexts()
+std::vector<std::wstring> makeTexts(int rows)
 {
     const wchar_t* const starts[] = {L"Beam ", L"beam ", L"IPE", L"HEA ", L"Column A", L"", L"Bolt M"};
     const wchar_t* const ends[] = {L"", L" bis", L"-3", L".5", L" mm"};
     std::mt19937 random(20240917);
     std::vector<std::wstring> texts;
-    for (int i = 0; i < c_rows; ++i)
+    for (int i = 0; i < rows; ++i)
         texts.push_back(starts[random() % 7] + std::to_wstring(random() % 5000) + ends[random() % 5]);
     return texts;
 }
 
-void benchSort()
+void benchSort(int rows)
 {
-    const std::vector<std::wstring> texts = makeTexts();
+    const std::vector<std::wstring> texts = makeTexts(rows);
     const double ours = fastest(5,
                                 [&]
                                 {
@@ -128,17 +130,60 @@ void benchSort()
                                                      { return naturallyLess(texts[a], texts[b]); });
                                     g_sum += order.front();
                                 });
-    std::printf("%-44s %12s %12s\n", "100,000 rows by one column", "ours", "stable_sort");
-    const double ratio = line("sort (keys once a row / natural order)", ours, peer);
-    std::printf("goal: at most 1, with keys 0.25: %s\n", ratio <= 0.25  ? "both met"
-                                                         : ratio <= 1.0 ? "first met, second not"
-                                                                        : "not met");
+    std::printf("%d rows by one column: ours, std::stable_sort\n", rows);
+    const double ratio = line("sort (keys once a row / natural order)", ours, peer, rows);
+    std::printf("  goal: at most 1, with keys 0.25: %s\n", ratio <= 0.25  ? "both met"
+                                                           : ratio <= 1.0 ? "first met, second not"
+                                                                          : "not met");
+}
+
+/// Records as a tree list keeps them, against records that are allocated one by one.
+void benchRecords(int rows)
+{
+    CKxTreeListRow row(0);
+    row.texts = L"Beam 12";
+    const double ours = fastest(5,
+                                [&]
+                                {
+                                    treelist::RowStore store;
+                                    std::vector<LPARAM> addresses;
+                                    for (int i = 0; i < rows; ++i)
+                                        addresses.push_back(treelist::RowStore::AddressOf(store.Create(row)));
+                                    for (const LPARAM address : addresses)
+                                        g_sum += store.Find(address) == nullptr ? 1 : 2;
+                                    for (const LPARAM address : addresses)
+                                        store.Destroy(address);
+                                });
+    const double peer = fastest(5,
+                                [&]
+                                {
+                                    std::unordered_set<CKxTreeListRow*> store;
+                                    std::vector<CKxTreeListRow*> addresses;
+                                    for (int i = 0; i < rows; ++i)
+                                    {
+                                        addresses.push_back(new CKxTreeListRow(row));
+                                        store.insert(addresses.back());
+                                    }
+                                    for (CKxTreeListRow* const address : addresses)
+                                        g_sum += store.contains(address) ? 1 : 2;
+                                    for (CKxTreeListRow* const address : addresses)
+                                    {
+                                        store.erase(address);
+                                        delete address;
+                                    }
+                                });
+    std::printf("%d records: ours, new, delete and std::unordered_set\n", rows);
+    line("made, found, destroyed", ours, peer, rows);
 }
 } // namespace
 
 int main()
 {
-    benchCells();
-    benchSort();
+    for (const int columns : {10, 50, 250})
+        benchCells(columns);
+    for (const int rows : {1000, 10000, 100000})
+        benchSort(rows);
+    for (const int rows : {10000, 100000})
+        benchRecords(rows);
     return g_sum == 0 ? 1 : 0;
 }

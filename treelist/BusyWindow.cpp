@@ -1,6 +1,8 @@
 // A platform control's window that must not end while one of its messages is at work.
 #include "BusyWindow.h"
 
+#include <afxcmn.h>
+
 #include <unordered_map>
 
 namespace treelist
@@ -33,11 +35,42 @@ Work* workOf(HWND window)
     return found == works().end() ? nullptr : &found->second;
 }
 
+std::uint64_t& changingMessages()
+{
+    thread_local std::uint64_t count = 0;
+    return count;
+}
+
+/// What changes in a window by such a message comes to it as a message of its own.
+bool mayChangeItself(UINT message)
+{
+    switch (message)
+    {
+    case SBM_GETPOS:
+    case SBM_GETRANGE:
+    case SBM_GETSCROLLINFO:
+    case TVM_INSERTITEMA:
+    case TVM_INSERTITEMW:
+    case TVM_GETITEMA:
+    case TVM_GETITEMW:
+    case TVM_SETITEMA:
+    case TVM_SETITEMW:
+    case TVM_GETITEMRECT:
+    case TVM_GETNEXTITEM:
+    case TVM_GETCOUNT:
+        return false;
+    default:
+        return true;
+    }
+}
+
 LRESULT CALLBACK countMessages(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     Work* const work = workOf(window); // stays where it is
     if (work == nullptr)
         return ::DefWindowProc(window, message, wParam, lParam);
+    if (mayChangeItself(message))
+        ++changingMessages();
     ++work->depth;
     const WNDPROC next = work->givenUp ? work->platform : work->before;
     const LRESULT result = ::CallWindowProc(next, window, message, wParam, lParam);
@@ -65,6 +98,11 @@ void BusyWindow::Watch(HWND window)
     work.platform = reinterpret_cast<WNDPROC>(::GetClassLongPtr(window, GCLP_WNDPROC));
     work.before =
         reinterpret_cast<WNDPROC>(::SetWindowLongPtr(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&countMessages)));
+}
+
+std::uint64_t BusyWindow::ChangingMessages()
+{
+    return changingMessages();
 }
 
 bool BusyWindow::IsBusy(HWND window)

@@ -3,6 +3,8 @@
 
 #include <afxwin.h>
 
+#include <cstdint>
+
 namespace treelist
 {
 
@@ -12,6 +14,9 @@ struct BusyWindow
 {
     /// Counts the messages of the window from now on.
     static void Watch(HWND window);
+    /// How many messages came to the watched windows of this thread, those left out that only ask, or put in a node. While the
+    /// number stays, no watched window got another size, place, style, range or position by a message.
+    static std::uint64_t ChangingMessages();
     /// Whether one of them is at work.
     static bool IsBusy(HWND window);
     /// Takes a busy window off the screen and away from its parent; it ends when the message is over. No object may be attached

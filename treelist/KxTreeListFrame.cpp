@@ -4,6 +4,7 @@
 #include "BusyWindow.h"
 #include "FrameRows.h"
 #include "HeaderRules.h"
+#include "NativeTree.h"
 #include "ScrollRules.h"
 #include "SortWalk.h"
 #include "../frame/Surviving.h"
@@ -42,17 +43,6 @@ int heightOfTextA(CWnd& window, CFont& font)
         ::SelectObject(dc.m_hDC, before);
     return height;
 }
-
-/// The nodes as the sorting walk sees them.
-struct TreeNodes
-{
-    using Node = HTREEITEM;
-    const CKxTreeListViewCtrl& tree;
-
-    Node Next(Node node) const { return tree.GetNextSiblingItem(node); }
-    Node FirstChild(Node node) const { return tree.GetChildItem(node); }
-    bool HasChildren(Node node) const { return tree.ItemHasChildren(node) != FALSE; }
-};
 
 /// The rows as the search for a row sees them.
 struct FrameRows
@@ -148,6 +138,7 @@ void CKxTreeListFrame::Initialize()
     m_scrollBar.Create(scrollBarStyle, first.bar, this, ID_SCROLL_BAR);
     treelist::BusyWindow::Watch(header.m_hWnd);
     treelist::BusyWindow::Watch(m_tree.m_hWnd);
+    treelist::BusyWindow::Watch(m_scrollBar.m_hWnd);
     SortTree(0, 1, m_tree.GetRootItem());
 }
 
@@ -189,7 +180,8 @@ CKxHeaderCtrl& CKxTreeListFrame::GetHeaderCtrl()
 
 void CKxTreeListFrame::SortTree(int col, int ascending, HTREEITEM first)
 {
-    treelist::WalkAndSort(TreeNodes{m_tree}, first, [&](HTREEITEM node) { m_tree.SortItems(col, ascending, node); });
+    treelist::WalkAndSort(treelist::NativeTree(m_tree), first,
+                          [&](HTREEITEM node) { m_tree.SortItems(col, ascending, node); });
 }
 
 HTREEITEM CKxTreeListFrame::GetElementItemByString(CString text)

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "../frame/Surviving.h"
+#include "BusyWindow.h"
 #include "RecentNode.h"
 #include "oxa/treelist/KxTreeListFrame.h"
 
@@ -118,9 +119,15 @@ void CKxTreeListFrame::PutHeader(int width)
 void CKxTreeListFrame::ShowFromTheLeft(const Measures& now)
 {
     m_tree.m_horizontalOffset = 0;
-    if (m_tree.m_recent->LetAllBePainted()) // every insertion of a row comes by here
-        m_tree.Invalidate();
+    PaintTreeAnew();
     PutHeader(treelist::HeaderWidthAtRest(now));
+}
+
+// Every insertion of a row comes by here, so that the tree is not told twice.
+void CKxTreeListFrame::PaintTreeAnew()
+{
+    if (m_tree.m_recent->LetAllBePainted())
+        m_tree.Invalidate();
 }
 
 void CKxTreeListFrame::CancelEdit()
@@ -133,13 +140,39 @@ void CKxTreeListFrame::CancelEdit()
 
 // ---- Recalculation
 
+CKxTreeListFrame::BarInputs CKxTreeListFrame::ReadInputs(bool barShown)
+{
+    BarInputs inputs;
+    inputs.frame = clientSize(*this);
+    inputs.columns = m_tree.GetColumnsWidth();
+    inputs.offset = m_tree.m_horizontalOffset;
+    inputs.barShown = barShown;
+    inputs.besideBar = barShown && VerticalScrollVisible() ? ::GetSystemMetrics(SM_CXVSCROLL) : 0;
+    inputs.messages = treelist::BusyWindow::ChangingMessages();
+    return inputs;
+}
+
+bool CKxTreeListFrame::IsSettled()
+{
+    return m_settled && m_settled->messages == treelist::BusyWindow::ChangingMessages() &&
+           *m_settled == ReadInputs(m_settled->barShown);
+}
+
 void CKxTreeListFrame::ResetScrollBar()
 {
     if (m_tree.m_hWnd == nullptr)
         return;
+    if (IsSettled())
+    {
+        if (!m_settled->barShown)
+            PaintTreeAnew();
+        CancelEdit();
+        return;
+    }
     const Surviving here(*this);
     const Measures now = Measure();
     const bool shown = !treelist::FitsWithoutBar(now);
+    const BarInputs before = ReadInputs(shown);
     ShowBar(shown);
     if (!here)
         return;
@@ -152,6 +185,7 @@ void CKxTreeListFrame::ResetScrollBar()
         FollowHeader();
     else
         ShowFromTheLeft(now);
+    m_settled = before == ReadInputs(shown) ? std::optional<BarInputs>(before) : std::nullopt;
     CancelEdit();
 }
 

@@ -28,14 +28,19 @@ BEGIN_MESSAGE_MAP(CKxTreeListViewCtrl, CTreeCtrl)
     ON_NOTIFY_REFLECT(NM_KILLFOCUS, &CKxTreeListViewCtrl::OnKillfocus)
     // LRESULT (WPARAM, LPARAM)
     ON_MESSAGE(0x450, &CKxTreeListViewCtrl::OnEditKillFocus)
+    ON_MESSAGE(TVM_INSERTITEMA, &CKxTreeListViewCtrl::OnInsertNode)
+    ON_MESSAGE(TVM_INSERTITEMW, &CKxTreeListViewCtrl::OnInsertNode)
     ON_MESSAGE(TVM_DELETEITEM, &CKxTreeListViewCtrl::OnDeleteNode)
-    ON_MESSAGE(TVM_SETITEMA, &CKxTreeListViewCtrl::OnChangeNode)
-    ON_MESSAGE(TVM_SETITEMW, &CKxTreeListViewCtrl::OnChangeNode)
-    ON_MESSAGE(TVM_EXPAND, &CKxTreeListViewCtrl::OnChangeNode)
+    ON_MESSAGE(TVM_SETITEMA, &CKxTreeListViewCtrl::OnSetNode)
+    ON_MESSAGE(TVM_SETITEMW, &CKxTreeListViewCtrl::OnSetNode)
+    ON_MESSAGE(TVM_EXPAND, &CKxTreeListViewCtrl::OnExpandNode)
+    ON_MESSAGE(TVM_SORTCHILDREN, &CKxTreeListViewCtrl::OnSortNodesByLabel)
+    ON_MESSAGE(TVM_SORTCHILDRENCB, &CKxTreeListViewCtrl::OnSortNodesByHost)
 END_MESSAGE_MAP()
 
 CKxTreeListViewCtrl::CKxTreeListViewCtrl()
-    : m_rows(std::make_unique<treelist::RowStore>()), m_recent(std::make_unique<treelist::RecentNode>())
+    : m_rows(std::make_unique<treelist::RowStore>()), m_recent(std::make_unique<treelist::RecentNode>()),
+      m_known(std::make_unique<treelist::KnownNodes<HTREEITEM>>())
 {
 }
 
@@ -73,17 +78,6 @@ void CKxTreeListViewCtrl::LeaveBusyWindow()
         return;
     m_recent->Forget();
     treelist::BusyWindow::GiveUp(Detach());
-}
-
-/// A node gets another parameter, or goes with what is collapsed. Forgotten twice: a host may ask about it meanwhile.
-LRESULT CKxTreeListViewCtrl::OnChangeNode(WPARAM, LPARAM)
-{
-    const Surviving here(*this);
-    m_recent->Forget();
-    const LRESULT result = Default();
-    if (here)
-        m_recent->Forget();
-    return result;
 }
 
 // ---- Columns

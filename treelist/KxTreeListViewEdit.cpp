@@ -243,19 +243,6 @@ LRESULT CKxTreeListViewCtrl::OnEditKillFocus(WPARAM, LPARAM)
     return 1; // an editor does not close on loss of focus
 }
 
-/// A row that goes takes its edit along: what is committed later finds its row gone.
-LRESULT CKxTreeListViewCtrl::OnDeleteNode(WPARAM, LPARAM lParam)
-{
-    const auto deleted = reinterpret_cast<HTREEITEM>(lParam);
-    const treelist::NativeTree tree(*this);
-    HTREEITEM node = m_editedItem;
-    while (node != nullptr && node != deleted)
-        node = tree.Parent(node);
-    if (node != nullptr || deleted == TVI_ROOT || deleted == nullptr)
-        m_editedItem = nullptr;
-    return OnChangeNode(0, lParam);
-}
-
 // ---- Mouse and keys
 
 void CKxTreeListViewCtrl::OnLButtonDown(UINT flags, CPoint point)

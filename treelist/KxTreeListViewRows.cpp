@@ -193,7 +193,10 @@ BOOL CKxTreeListViewCtrl::DeleteAllItems()
     }
     ::LockWindowUpdate(nullptr);
     if (here && GetRootItem() == nullptr)
+    {
         m_rows->Reclaim();
+        m_known->Emptied();
+    }
     return deleted;
 }
 
@@ -206,7 +209,7 @@ void CKxTreeListViewCtrl::MemDeleteAllItems(HTREEITEM first)
 
 BOOL CKxTreeListViewCtrl::SortItems(int col, BOOL ascending, HTREEITEM parent)
 {
-    return RowsOf(*this, *m_rows).SortChildren(parent == TVI_ROOT ? nullptr : parent, col, ascending != FALSE);
+    return RowsOf(*this, *m_rows).SortChildren(parent, col, ascending != FALSE);
 }
 
 int CALLBACK CKxTreeListViewCtrl::CompareFunc(LPARAM a, LPARAM b, LPARAM sortParam)

@@ -30,6 +30,11 @@ public:
         return node != nullptr && node != TVI_ROOT && node != TVI_FIRST && node != TVI_LAST && node != TVI_SORT;
     }
 
+    /// None for what stands for the top level.
+    static Node AsParent(Node parent) { return parent == TVI_ROOT ? nullptr : parent; }
+    KnownNodes<Node>& Known() const { return *m_tree->m_known; }
+    bool MayHaveParentsBeside(Node node) const { return Known().MayHaveParentBelow(Parent(node)); }
+
     Node First() const { return m_tree->GetRootItem(); }
     Node Next(Node node) const { return IsNode(node) ? m_tree->GetNextSiblingItem(node) : nullptr; }
     Node FirstChild(Node node) const { return IsNode(node) ? m_tree->GetChildItem(node) : nullptr; }

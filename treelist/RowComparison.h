@@ -39,7 +39,7 @@ struct OXA_API RowComparison
 
     enum : unsigned
     {
-        c_nLongestInsertion = 1024
+        c_nLongestInsertion = 128
     };
 };
 

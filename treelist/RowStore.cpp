@@ -10,14 +10,17 @@ namespace treelist
 namespace
 {
 constexpr std::size_t firstSize = 16;
-constexpr std::size_t largestSize = 4096;
+constexpr std::size_t largestSize = 1024;
 } // namespace
 
-struct RowStore::Place
+/// A base, so that what is known beside the record takes the room that is left behind its last field.
+struct RowStore::Place : CKxTreeListRow
 {
-    CKxTreeListRow row{0};
-    std::uint32_t rank = 0;
-    bool living = false;
+    Place() : CKxTreeListRow(0), rank(0), marked(0), living(0) {}
+
+    std::uint32_t rank : 30;
+    std::uint32_t marked : 1;
+    std::uint32_t living : 1;
 };
 
 RowStore::RowStore() : m_nextSize(firstSize) {}
@@ -57,7 +60,7 @@ RowStore::Place* RowStore::PlaceOf(LPARAM address) const
         return nullptr;
     const std::uintptr_t offset = sought - reinterpret_cast<std::uintptr_t>(block->places.get());
     const std::size_t index = offset / sizeof(Place);
-    if (offset % sizeof(Place) != 0 || index >= block->used || !block->places[index].living)
+    if (offset % sizeof(Place) != 0 || index >= block->used || block->places[index].living == 0)
         return nullptr;
     return &block->places[index];
 }
@@ -87,29 +90,39 @@ CKxTreeListRow* RowStore::Create(const CKxTreeListRow& row)
 {
     Block& block = BlockWithRoom();
     Place& place = block.places[block.used];
-    place.row = row;
-    place.living = true;
+    static_cast<CKxTreeListRow&>(place) = row;
+    place.living = 1;
     ++block.used;
     ++block.living;
     ++m_living;
-    return &place.row;
+    return &place;
 }
 
 CKxTreeListRow* RowStore::Find(LPARAM address) const
 {
-    Place* const place = PlaceOf(address);
-    return place == nullptr ? nullptr : &place->row;
+    return PlaceOf(address);
+}
+
+void RowStore::Destroy(const Block& block, Place& place)
+{
+    static_cast<CKxTreeListRow&>(place) = CKxTreeListRow(0);
+    place.living = 0;
+    --const_cast<Block&>(block).living;
+    --m_living;
 }
 
 void RowStore::Destroy(LPARAM address)
 {
-    Place* const place = PlaceOf(address);
-    if (place == nullptr)
-        return;
-    place->row = CKxTreeListRow(0);
-    place->living = false;
-    --const_cast<Block*>(BlockOf(static_cast<std::uintptr_t>(address)))->living;
-    --m_living;
+    if (Place* const place = PlaceOf(address))
+        Destroy(*BlockOf(static_cast<std::uintptr_t>(address)), *place);
+}
+
+void RowStore::DestroyRanked()
+{
+    for (const Block& block : m_blocks)
+        for (std::size_t i = 0; i < block.used; ++i)
+            if (block.places[i].living != 0 && block.places[i].rank != 0)
+                Destroy(block, block.places[i]);
 }
 
 void RowStore::Reclaim()
@@ -122,12 +135,20 @@ void RowStore::Reclaim()
 
 void RowStore::SetRank(CKxTreeListRow& row, std::uint32_t rank)
 {
-    reinterpret_cast<Place&>(row).rank = rank;
+    static_cast<Place&>(row).rank = rank & c_nLargestRank;
 }
 
 std::uint32_t RowStore::Rank(const CKxTreeListRow& row)
 {
-    return reinterpret_cast<const Place&>(row).rank;
+    return static_cast<const Place&>(row).rank;
+}
+
+bool RowStore::SetMark(CKxTreeListRow& row, bool mark)
+{
+    auto& place = static_cast<Place&>(row);
+    const bool before = place.marked != 0;
+    place.marked = mark ? 1 : 0;
+    return before;
 }
 
 } // namespace treelist

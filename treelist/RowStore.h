@@ -33,12 +33,20 @@ public:
     CKxTreeListRow* Find(LPARAM address) const;
     /// Empties and forgets a record. Anything else is left alone.
     void Destroy(LPARAM address);
+    /// All records that have a rank.
+    void DestroyRanked();
     /// Gives the memory of destroyed records back. For the moment when no node points at one any more.
     void Reclaim();
 
-    /// A place in the order of a sort, kept beside each living record.
+    enum : std::uint32_t
+    {
+        c_nLargestRank = (1U << 30) - 1
+    };
+    /// A place in some order, kept beside each record of a store: 0 until one is set, `c_nLargestRank` at most.
     static void SetRank(CKxTreeListRow& row, std::uint32_t rank);
     static std::uint32_t Rank(const CKxTreeListRow& row);
+    /// A mark beside each record. Answers whether it was set.
+    static bool SetMark(CKxTreeListRow& row, bool mark);
 
     std::size_t LivingCount() const { return m_living; }
     static LPARAM AddressOf(const CKxTreeListRow* row) { return reinterpret_cast<LPARAM>(row); }
@@ -57,6 +65,7 @@ private:
     static Blocks& Left();
     const Block* BlockOf(std::uintptr_t address) const;
     Place* PlaceOf(LPARAM address) const;
+    void Destroy(const Block& block, Place& place);
     Block& BlockWithRoom();
     void LeaveLiving();
 

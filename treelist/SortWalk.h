@@ -20,6 +20,9 @@ concept SiblingTree = requires(const Tree& tree, typename Tree::Node node)
     {
         tree.HasChildren(node)
         } -> std::same_as<bool>;
+    {
+        tree.MayHaveParentsBeside(node)
+        } -> std::same_as<bool>; // false: the node is known to stand on a level where none has children
 };
 
 /// Calls `sortChildren(node)` for each node with children of the sibling chain from `first`, and for the levels below.
@@ -29,7 +32,12 @@ template <SiblingTree Tree, typename SortChildren>
 void WalkAndSort(const Tree& tree, typename Tree::Node first, const SortChildren& sortChildren)
 {
     std::vector<typename Tree::Node> open; // where the walk goes on, the innermost level last
-    open.push_back(first);
+    const auto goOnFrom = [&](typename Tree::Node node)
+    {
+        if (node && tree.MayHaveParentsBeside(node))
+            open.push_back(node);
+    };
+    goOnFrom(first);
     while (!open.empty())
     {
         const typename Tree::Node node = open.back();
@@ -44,7 +52,7 @@ void WalkAndSort(const Tree& tree, typename Tree::Node first, const SortChildren
         const typename Tree::Node child = tree.FirstChild(node);
         sortChildren(node);
         open.push_back(tree.Next(node));
-        open.push_back(child);
+        goOnFrom(child);
     }
 }
 

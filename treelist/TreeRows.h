@@ -3,10 +3,12 @@
 
 #include <afx.h>
 
+#include <algorithm>
 #include <concepts>
 #include <utility>
 #include <vector>
 
+#include "KnownNodes.h"
 #include "RowCells.h"
 #include "RowComparison.h"
 #include "RowStore.h"
@@ -40,6 +42,12 @@ concept NodeTree = SiblingTree<Tree> && requires(Tree& tree, const Tree& reading
     {
         reading.Last()
         } -> std::same_as<typename Tree::Node>; // as `after`: behind all children
+    {
+        reading.AsParent(node)
+        } -> std::same_as<typename Tree::Node>; // none for what stands for the top level
+    {
+        reading.Known()
+        } -> std::same_as<KnownNodes<typename Tree::Node>&>; // told of all that happens to nodes, by whomever
     {
         reading.Param(node)
         } -> std::same_as<LPARAM>; // 0 for what is no node
@@ -158,35 +166,36 @@ public:
     /// are no records any more.
     void DestroyRecords(Node first)
     {
-        std::vector<Node> open{first};
-        while (!open.empty())
-        {
-            const Node node = open.back();
-            open.pop_back();
-            if (!node)
-                continue;
-            m_store.Destroy(m_tree.Param(node));
-            open.push_back(m_tree.Next(node));
-            if (m_tree.HasChildren(node))
-                open.push_back(m_tree.FirstChild(node));
-        }
+        if (!first)
+            return;
+        KnownNodes<Node>& known = m_tree.Known();
+        if (first == m_tree.First() && known.EveryRecordHasNode())
+            m_store.DestroyRanked();
+        else
+            DestroyOneByOne(first);
+        known.Distrust();
     }
 
     /// Sorts the children of `parent` (none: the top level).
     BOOL SortChildren(Node parent, int column, bool ascending)
     {
+        const Node above = m_tree.AsParent(parent);
         std::vector<CKxTreeListRow*> rows;
-        bool complete = true;
-        for (Node node = parent ? m_tree.FirstChild(parent) : m_tree.First(); node; node = m_tree.Next(node))
+        std::vector<std::uint32_t> ranks;
+        if (m_tree.Known().RanksTell(above))
         {
-            rows.push_back(RowOf(node));
-            complete = complete && rows.back() != nullptr;
+            const BOOL done = CollectByRank(above, rows, ranks);
+            if (rows.empty())
+                return done; // fewer than two children
         }
-        if (!complete || rows.empty()) // the tree itself knows whether there is such a node
-            return m_tree.Sort(parent, [&](LPARAM a, LPARAM b)
+        else if (!CollectOneByOne(above, rows, ranks))
+            return m_tree.Sort(above, [&](LPARAM a, LPARAM b)
                                { return ComparePlainly(m_store.Find(a), m_store.Find(b), column, ascending); });
-        RankRows(rows, column, ascending);
-        return m_tree.Sort(parent, CompareRanks);
+        RankRows(rows, ranks, column, ascending);
+        const BOOL done = m_tree.Sort(above, CompareRanks);
+        if (m_tree.Lives())
+            m_tree.Known().StandByRank(above);
+        return done;
     }
 
     /// By keys worked out for this one comparison. No record compares as an empty one.
@@ -210,16 +219,81 @@ private:
         return left == right ? 0 : left < right ? -1 : 1;
     }
 
-    /// Keys are worked out once a row, and the tree itself sorts by the places that they gave.
-    static void RankRows(const std::vector<CKxTreeListRow*>& rows, int column, bool ascending)
+    /// The children of a node whose ranks tell how they stand, and those ranks: a sort that moves none sees all of them. None
+    /// for fewer than two children.
+    BOOL CollectByRank(Node parent, std::vector<CKxTreeListRow*>& rows, std::vector<std::uint32_t>& ranks)
+    {
+        const auto see = [&rows](LPARAM param)
+        {
+            auto& row = *reinterpret_cast<CKxTreeListRow*>(param);
+            if (!RowStore::SetMark(row, true))
+                rows.push_back(&row);
+        };
+        const BOOL done = m_tree.Sort(parent,
+                                      [&see](LPARAM a, LPARAM b)
+                                      {
+                                          see(a);
+                                          see(b);
+                                          return CompareRanks(a, b);
+                                      });
+        const auto inFront = [](const CKxTreeListRow* a, const CKxTreeListRow* b)
+        { return RowStore::Rank(*a) < RowStore::Rank(*b); };
+        if (!std::is_sorted(rows.begin(), rows.end(), inFront))
+            std::sort(rows.begin(), rows.end(), inFront);
+        ranks.reserve(rows.size());
+        for (CKxTreeListRow* const row : rows)
+        {
+            RowStore::SetMark(*row, false);
+            ranks.push_back(RowStore::Rank(*row));
+        }
+        return done;
+    }
+
+    /// The same for any node, with ranks that are new. False when a child has no record, and without children: the tree itself
+    /// knows whether there is such a node.
+    bool CollectOneByOne(Node parent, std::vector<CKxTreeListRow*>& rows, std::vector<std::uint32_t>& ranks)
+    {
+        for (Node node = parent ? m_tree.FirstChild(parent) : m_tree.First(); node; node = m_tree.Next(node))
+        {
+            rows.push_back(RowOf(node));
+            if (rows.back() == nullptr)
+                return false;
+        }
+        const auto count = static_cast<std::uint32_t>(rows.size());
+        std::uint32_t rank = m_tree.Known().TakeRanks(count, RowStore::c_nLargestRank);
+        ranks.reserve(rows.size());
+        for (std::size_t i = 0; i < rows.size(); ++i)
+            ranks.push_back(rank++);
+        return !rows.empty();
+    }
+
+    /// Keys are worked out once a row, and the tree itself sorts by the ranks that they gave.
+    static void RankRows(const std::vector<CKxTreeListRow*>& rows, const std::vector<std::uint32_t>& ranks, int column,
+                         bool ascending)
     {
         std::vector<SortKey> keys;
         keys.reserve(rows.size());
         for (const CKxTreeListRow* row : rows)
             keys.push_back(KeyOf(row, column));
-        std::uint32_t rank = 0;
+        auto rank = ranks.begin();
         for (const std::uint32_t place : RowComparison::Order(keys, ascending))
-            RowStore::SetRank(*rows[place], rank++);
+            RowStore::SetRank(*rows[place], *rank++);
+    }
+
+    void DestroyOneByOne(Node first)
+    {
+        std::vector<Node> open{first};
+        while (!open.empty())
+        {
+            const Node node = open.back();
+            open.pop_back();
+            if (!node)
+                continue;
+            m_store.Destroy(m_tree.Param(node));
+            open.push_back(m_tree.Next(node));
+            if (m_tree.HasChildren(node))
+                open.push_back(m_tree.FirstChild(node));
+        }
     }
 
     bool IsAtOrBelow(Node node, Node above) const

@@ -79,6 +79,7 @@ public:
     }
 
     int count = 0;
+    treelist::KnownNodes<MemoryNode*> known;
 
 private:
     static MemoryNode* Special(int index)
@@ -129,6 +130,9 @@ public:
     }
     Node Last() const { return MemoryNodes::Last(); }
     bool HasChildren(Node node) const { return FirstChild(node) != nullptr; }
+    static Node AsParent(Node parent) { return parent == MemoryNodes::Root() ? nullptr : parent; }
+    treelist::KnownNodes<Node>& Known() const { return m_nodes->known; }
+    bool MayHaveParentsBeside(Node node) const { return Known().MayHaveParentBelow(Parent(node)); }
     LPARAM Param(Node node) const { return MemoryNodes::IsNode(node) ? node->block.param : 0; }
     BOOL SetParam(Node node, LPARAM param)
     {
@@ -145,13 +149,24 @@ public:
         block.state = 0;
         return true;
     }
+    /// Of a row that has a record of its own.
     Node Insert(const treelist::NodeBlock& block, Node parent, Node after)
     {
-        return m_nodes->Insert(block, parent, after);
+        auto& row = *reinterpret_cast<CKxTreeListRow*>(block.param);
+        treelist::RowStore::SetRank(row, Known().TakeRanks(1, treelist::RowStore::c_nLargestRank));
+        const Node node = m_nodes->Insert(block, parent, after);
+        if (after != Last())
+            Known().Shuffled(AsParent(parent));
+        if (node == nullptr)
+            Known().RecordWithoutNode();
+        else if (Known().GetsChild(AsParent(parent)))
+            Known().HasParentBelow(Parent(parent));
+        return node;
     }
     BOOL Remove(Node node)
     {
         const bool removed = m_nodes->Remove(node);
+        Known().Removed();
         if (onRemove)
             m_lives = onRemove();
         return removed ? TRUE : FALSE;
@@ -244,6 +259,7 @@ public:
         while (Tree().First() != nullptr)
             Tree().Remove(Tree().First());
         store.Reclaim();
+        nodes.known.Emptied();
         return TRUE;
     }
     void MemDeleteAllItems(Node first) { Rows().DestroyRecords(first); }
@@ -263,11 +279,16 @@ public:
     int NodeCount() const { return nodes.count; }
     int Image(Node node) const { return node->block.image; }
     LPARAM Param(Node node) { return Tree().Param(node); }
-    void SetParam(Node node, LPARAM param) { Tree().SetParam(node, param); }
+    void SetParam(Node node, LPARAM param)
+    {
+        nodes.known.Distrust();
+        Tree().SetParam(node, param);
+    }
     Node InsertForeign(LPARAM param, Node parent)
     {
         treelist::NodeBlock block;
         block.param = param;
+        nodes.known.Distrust();
         return nodes.Insert(block, parent, Behind());
     }
     const CKxTreeListRow* Row(Node node) { return Rows().RowOf(node); }

@@ -3,6 +3,9 @@
 
 #include <afxcmn.h>
 
+#include <cstdint>
+#include <optional>
+
 #include "oxa/Export.h"
 #include "oxa/treelist/KxTreeListViewCtrl.h"
 
@@ -144,5 +147,21 @@ private:
     void ScrollTo(int current, int position);
     void ShiftEdit(int shift);
 
-    bool m_recalculationHeld = false; ///< changes of header items are made up for later
+    /// What a recalculation of the bar goes by, as far as it can be asked at little cost.
+    struct BarInputs
+    {
+        CSize frame;
+        int columns = 0;
+        int offset = 0;
+        bool barShown = false;
+        int besideBar = 0; ///< the width of the vertical bar that the shown one stands beside
+        std::uint64_t messages = 0;
+        bool operator==(const BarInputs&) const = default;
+    };
+    BarInputs ReadInputs(bool barShown);
+    bool IsSettled();
+    void PaintTreeAnew();
+
+    bool m_recalculationHeld = false;   ///< changes of header items are made up for later
+    std::optional<BarInputs> m_settled; ///< the inputs of a recalculation that had nothing to set; by the same none has
 };

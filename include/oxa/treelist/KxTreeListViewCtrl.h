@@ -17,6 +17,7 @@ class CKxTreeListFrame;
 
 namespace treelist
 {
+template <typename Node> class KnownNodes;
 class NativeTree;
 class RecentNode;
 class RowStore;
@@ -198,8 +199,12 @@ protected:
     afx_msg void OnClick(NMHDR* notify, LRESULT* result);
     afx_msg void OnKillfocus(NMHDR* notify, LRESULT* result);
     afx_msg LRESULT OnEditKillFocus(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnInsertNode(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnDeleteNode(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnChangeNode(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSetNode(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnExpandNode(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSortNodesByLabel(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSortNodesByHost(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     friend class CKxTreeListFrame; // fills the header, its font and images, and scrolls
@@ -236,9 +241,12 @@ private:
     bool PressButton(CPoint point);
     void DropLostEditor();
     void LeaveBusyWindow();
+    LRESULT ForgetNode();
+    LRESULT SortNodes(HTREEITEM parent, bool below);
 
     friend class treelist::NativeTree;
 
     std::unique_ptr<treelist::RowStore> m_rows;
     std::unique_ptr<treelist::RecentNode> m_recent;
+    std::unique_ptr<treelist::KnownNodes<HTREEITEM>> m_known;
 };

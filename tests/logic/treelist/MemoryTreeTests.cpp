@@ -1,8 +1,10 @@
 // The cases of the tree list over a tree in memory, and what only such a tree can show.
 #include "support/MemoryTree.h"
 #include "support/TreeListCases.h"
+#include "support/TreeListSortCases.h"
 
 INSTANTIATE_TYPED_TEST_SUITE_P(OverMemory, TreeListCases, MemoryTreeList);
+INSTANTIATE_TYPED_TEST_SUITE_P(OverMemory, TreeListSorts, MemoryTreeList);
 
 namespace
 {

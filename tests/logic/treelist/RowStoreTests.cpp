@@ -129,5 +129,49 @@ TEST(RowStore, a_rank_stands_beside_each_record)
     EXPECT_EQ(RowStore::Rank(*a), 7U);
     EXPECT_EQ(RowStore::Rank(*b), 9U);
     EXPECT_EQ(a->texts, L"a");
+    RowStore::SetRank(*a, RowStore::c_nLargestRank);
+    EXPECT_EQ(RowStore::Rank(*a), 0x3FFFFFFFU);
+    EXPECT_EQ(store.Find(RowStore::AddressOf(a)), a);
+}
+
+TEST(RowStore, a_mark_stands_beside_each_record)
+{
+    RowStore store;
+    CKxTreeListRow* const a = store.Create(RowNamed(L"a"));
+    CKxTreeListRow* const b = store.Create(RowNamed(L"b"));
+    EXPECT_FALSE(RowStore::SetMark(*a, true));
+    EXPECT_TRUE(RowStore::SetMark(*a, true));
+    EXPECT_FALSE(RowStore::SetMark(*b, false));
+    EXPECT_TRUE(RowStore::SetMark(*a, false));
+    EXPECT_FALSE(RowStore::SetMark(*a, false));
+    EXPECT_EQ(store.Find(RowStore::AddressOf(a)), a);
+}
+
+TEST(RowStore, a_copy_of_the_fields_leaves_what_stands_beside_them)
+{
+    RowStore store;
+    CKxTreeListRow* const a = store.Create(RowNamed(L"a"));
+    RowStore::SetRank(*a, 7);
+    RowStore::SetMark(*a, true);
+    *a = RowNamed(L"b");
+    EXPECT_EQ(RowStore::Rank(*a), 7U);
+    EXPECT_TRUE(RowStore::SetMark(*a, false));
+    EXPECT_EQ(store.Find(RowStore::AddressOf(a)), a);
+    EXPECT_EQ(RowStore::Rank(*store.Create(*a)), 0U) << "a record of its own";
+}
+
+TEST(RowStore, destroys_the_records_with_a_rank)
+{
+    RowStore store;
+    std::vector<CKxTreeListRow*> rows;
+    for (unsigned i = 0; i < 3000; ++i)
+    {
+        rows.push_back(store.Create(RowNamed(L"a")));
+        RowStore::SetRank(*rows.back(), i % 3);
+    }
+    store.DestroyRanked();
+    EXPECT_EQ(store.LivingCount(), 1000U);
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        ASSERT_EQ(store.Find(RowStore::AddressOf(rows[i])) != nullptr, i % 3 == 0) << i;
 }
 } // namespace

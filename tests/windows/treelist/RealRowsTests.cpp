@@ -1,6 +1,7 @@
 // The cases of the tree list that run over a tree in memory, with the real control in a real frame.
 #include "TreeListHost.h"
 #include "support/TreeListCases.h"
+#include "support/TreeListSortCases.h"
 
 namespace
 {
@@ -73,3 +74,4 @@ private:
 } // namespace
 
 INSTANTIATE_TYPED_TEST_SUITE_P(OverTheRealControl, TreeListCases, RealTreeList);
+INSTANTIATE_TYPED_TEST_SUITE_P(OverTheRealControl, TreeListSorts, RealTreeList);
