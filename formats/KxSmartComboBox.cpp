@@ -2,6 +2,7 @@
 #include "oxa/formats/KxSmartComboBox.h"
 
 #include <memory>
+#include "LongFieldText.h"
 #include "SmartComboLayout.h"
 #include "SmartComboWindow.h"
 #include "../frame/Surviving.h"
@@ -162,6 +163,10 @@ void CKxSmartComboBox::CreateCombo()
         return;
     m_combo.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(::GetStockObject(DEFAULT_GUI_FONT)), TRUE);
     m_combo.SetItemHeight(-1, static_cast<UINT>(layout.FieldHeight()));
+    COMBOBOXINFO parts = {};
+    parts.cbSize = sizeof parts;
+    if (m_combo.GetComboBoxInfo(&parts))
+        LongFieldText::Watch(parts.hwndItem);
 }
 
 void CKxSmartComboBox::FindDialogBar()

@@ -74,6 +74,9 @@ concept Window = requires(Owner& owner, UINT message, LPARAM index, int number, 
         owner.GetUnit()
         } -> std::same_as<CKxUnit*>; // the virtual operation; null: none
     {
+        owner.IsThere()
+        } -> std::same_as<bool>; // whether the control survived the virtual operation before
+    {
         owner.ShowMessage(prompt, prompt)
         } -> std::same_as<bool>; // a message box: text and title, prompts of the library
     {

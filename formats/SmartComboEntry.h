@@ -42,6 +42,9 @@ public:
     int ValidFreeFormat(const CString& text, int apply)
     {
         const CKxUnit* const unit = m_owner.GetUnit();
+        m_alive = m_alive && m_owner.IsThere();
+        if (!m_alive)
+            return 0;
         CKxSemantic architectural;
         const bool isArchitectural = unit != nullptr && unit->GetType() != UNITTYPE_METRIC;
         if (isArchitectural)
@@ -205,6 +208,8 @@ private:
     void AddFree(const CString& value, int& index)
     {
         const int valid = FitsList(value, 1);
+        if (!m_alive)
+            return;
         index = Find(value);
         if (index == smartcombo::none && valid != 0)
             AddStringCombo(value);
@@ -218,7 +223,8 @@ private:
         AddSorted(value);
         index = Find(value);
         SetCurSel(index);
-        CreateFormat();
+        if (m_alive)
+            CreateFormat();
     }
 
     bool IsRefused(int found) const { return m_data.format.IsEmpty() == 0 && found == smartcombo::none; }
@@ -242,7 +248,7 @@ private:
     bool AddPendingFree(const CString& text, int selected)
     {
         const int valid = FitsList(text, 0);
-        return Find(text) == smartcombo::none && valid != 0 && (AddTold(text, selected), true);
+        return m_alive && Find(text) == smartcombo::none && valid != 0 && (AddTold(text, selected), true);
     }
 
     bool AddPendingFormatted(const CString& text, int selected)
@@ -261,6 +267,8 @@ private:
             return true;
         const CString shown = Unmasked(m_combo.GetEditText());
         ValidFreeFormat(shown, 1);
+        if (!m_alive)
+            return true;
         SetSelectText(shown);
         MarkFrom(shown);
         return true;
@@ -282,9 +290,13 @@ private:
     void ShowSelected(int selected)
     {
         SetCurSel(selected);
+        if (!m_alive)
+            return;
         CString text;
         GetSelectText(text);
         ValidFreeFormat(text, 0);
+        if (!m_alive)
+            return;
         m_data.format.UpdateFormat(text);
         MarkFrom(text);
         if (IsRefused(Find(text)))

@@ -19,6 +19,7 @@ public:
     }
     bool ButtonHasChange(int bitmap);
     CKxUnit* GetUnit() { return m_control.GetUnit(); }
+    bool IsThere() const { return m_handle == nullptr || CWnd::FromHandlePermanent(m_handle) == &m_control; }
     bool ShowMessage(unsigned int text, unsigned int title);
     bool Ask(unsigned int text, unsigned int title, int& yes);
     bool FocusCombo();
@@ -28,7 +29,6 @@ public:
     void SelectButton(int index);
 
 private:
-    bool IsThere() const { return m_handle == nullptr || CWnd::FromHandlePermanent(m_handle) == &m_control; }
     bool Send(UINT message, WPARAM wParam, LPARAM lParam);
 
     CKxSmartComboBox& m_control;

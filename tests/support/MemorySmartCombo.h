@@ -36,7 +36,13 @@ public:
     }
     bool TellButton(LPARAM index) { return happened(L"buttonsel " + std::to_wstring(index)); }
     bool ButtonHasChange(int bitmap) { return happened(L"has change " + std::to_wstring(bitmap)); }
-    CKxUnit* GetUnit() { return unit.get(); }
+    CKxUnit* GetUnit()
+    {
+        if (endsAtUnit-- == 0)
+            control.reset();
+        return unit.get();
+    }
+    bool IsThere() const { return control != nullptr; }
     bool ShowMessage(unsigned int text, unsigned int title)
     {
         return happened(L"message " + std::to_wstring(text) + L" " + std::to_wstring(title));
@@ -56,6 +62,7 @@ public:
     std::unique_ptr<CKxUnit> unit; ///< what GetUnit of a derived class gives
     int answer = 1;                ///< to the question whether to delete
     int endsAt = -1;               ///< the event at which the control comes to its end, counted from 0
+    int endsAtUnit = -1;           ///< the question for the unit at which it does
     std::function<void()> onEvent; ///< what the parent does meanwhile
     std::unique_ptr<Control> control = std::make_unique<Control>();
 

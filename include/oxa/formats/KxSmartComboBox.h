@@ -37,6 +37,9 @@ struct SmartComboLayout;
 /// An object of a derived class is made by `new`, gets its window by `Create` with the name of the class, and is deleted
 /// with it as well. With the extended style `WS_EX_CONTROLPARENT` the user reaches the buttons by Tab.
 ///
+/// The field shows the first 10,000 characters of a text. A longer one counts whole wherever the control reads the field,
+/// until the user edits it: what he sees is the text then.
+///
 /// The parent hears of it by the messages in SmartComboMessages.h, and may destroy the control while it handles one, as may
 /// whoever loses the focus to it. Without a window nothing is shown and nothing is sent.
 ///

@@ -28,6 +28,25 @@ template <typename Prepare, typename Operation> void endAtEachEvent(const Prepar
     }
 }
 
+/// The same for each time that the operation asks for the unit, which is as often as said.
+template <typename Prepare, typename Operation>
+void endAtEachUnit(const Prepare& prepare, const Operation& operation, int questions)
+{
+    for (int at = 0; at <= questions; ++at)
+    {
+        MemorySmartCombo smart;
+        prepare(smart);
+        smart.events.clear();
+        smart.endsAtUnit = at;
+        operation(smart);
+        EXPECT_EQ(smart.control == nullptr, at < questions) << at;
+        if (at < questions)
+        {
+            EXPECT_EQ(smart.events.find(L"selchange"), std::wstring::npos) << "nobody is told afterwards";
+        }
+    }
+}
+
 void underFormat(MemorySmartCombo& smart)
 {
     CStringList values;
@@ -61,6 +80,51 @@ TEST(SmartComboEnding, nothing_is_touched_when_an_event_ends_the_control)
     endAtEachEvent(underFormat, [](MemorySmartCombo& smart) { smart.call().OnEditUpdate(); });
     endAtEachEvent(underFormat, [](MemorySmartCombo& smart) { smart.call().OnButtonSelChanged(0); });
     endAtEachEvent(underFormat, [&](MemorySmartCombo& smart) { smart.call().GetStringCombo(out, index, 1, 1); });
+}
+
+TEST(SmartComboEnding, nothing_is_touched_when_the_question_for_the_unit_ends_the_control)
+{
+    const auto withAlternatives = [](MemorySmartCombo& smart)
+    {
+        underFormat(smart);
+        MemorySmartCombo::fill(smart.data().formatList, L"[(C)1]-[(C)1] [(N)1]-[(N)1]");
+    };
+    const auto filled = [&](MemorySmartCombo& smart)
+    {
+        withAlternatives(smart);
+        smart.call().SetFormat(L"[(N)2]");
+        smart.combo().SetEditText(L"12");
+        CString text = L"12";
+        smart.data().format.SetString(text);
+    };
+    const auto refused = [&](MemorySmartCombo& smart)
+    {
+        withAlternatives(smart);
+        smart.combo().SetEditText(L"zz");
+    };
+    const auto free = [&](MemorySmartCombo& smart)
+    {
+        withAlternatives(smart);
+        smart.data().formatText.Empty();
+    };
+    const auto pick = [](MemorySmartCombo& smart) { smart.call().OnSelchangeCombo(); };
+    const auto add = [](MemorySmartCombo& smart) { smart.call().OnButtonAdd(); };
+    int index = 0;
+    CString text;
+    bool valid = false;
+    endAtEachUnit(withAlternatives, pick, 2);
+    endAtEachUnit(refused, pick, 2);
+    endAtEachUnit(free, pick, 1);
+    endAtEachUnit(filled, add, 1);
+    endAtEachUnit(free, add, 2);
+    endAtEachUnit(
+        free, [](MemorySmartCombo& smart) { smart.call().UpdateBitmapFromText(); }, 1);
+    endAtEachUnit(
+        free, [&](MemorySmartCombo& smart) { smart.call().GetText(text, 1, index, index); }, 1);
+    endAtEachUnit(
+        free, [&](MemorySmartCombo& smart) { smart.call().GetSelectText(text, valid); }, 1);
+    endAtEachUnit(
+        free, [](MemorySmartCombo& smart) { smart.call().SetCurSel(0); }, 1);
 }
 
 TEST(SmartComboEnding, a_refusal_that_ends_the_control_gives_neither_focus_nor_values)

@@ -1,4 +1,5 @@
 // Remembered values of the smart combo box: added, deleted, fetched, sorted, selected.
+#include <utility>
 #include "SmartFixture.h"
 
 TEST_F(SmartCombo, begins_free_of_format_sorted_and_untouched)
@@ -278,12 +279,12 @@ TEST_F(SmartCombo, the_text_with_its_judgement_has_no_placeholders_and_joins_whe
 TEST_F(SmartCombo, the_pattern_is_valid_whatever_the_text)
 {
     alternatives(L"[(N)2]");
-    for (const wchar_t* const text : {L"1#2", L"ab#"})
+    for (const auto& [text, expected] : {std::pair(L"1#2", L"12"), std::pair(L"ab#", L"ab")})
     {
         smart.call().SetSelectText(text);
         CString read;
         EXPECT_TRUE(smart.call().getPatternAndValidate(read));
-        EXPECT_EQ(read, read == L"12" ? L"12" : L"ab");
+        EXPECT_EQ(read, expected);
     }
     EXPECT_EQ(smart.shown(), L"12 / 12 / ab#") << "the one that fits has joined";
 }

@@ -215,7 +215,6 @@ TEST(SmartHostile, a_control_without_any_size_is_taken)
     EXPECT_TRUE(::IsWindow(host.smart->m_hWnd));
 }
 
-// Not in the field: the platform's edit field takes minutes for one.
 TEST(SmartHostile, values_of_a_million_characters_are_kept)
 {
     SmartHost host;
