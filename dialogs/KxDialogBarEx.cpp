@@ -265,6 +265,7 @@ HBRUSH CKxDialogBarEx::patternBrush(CDC* dc, CWnd* wnd)
         return nullptr;
     const SelectedBitmap barPicture(m_dcBack, m_bmpBack);
     const SelectedBitmap controlPicture(m_dcCtrl, m_bmpCtrl);
+    m_dcBack.IntersectClipRect(&m_rectCtrl); // the rest of the picture is not looked at
     PaintBackground(this, &m_dcBack);
     const CRect place = m_rectCtrl;
     m_dcCtrl.BitBlt(0, 0, place.Width(), place.Height(), &m_dcBack, place.left, place.top, SRCCOPY);

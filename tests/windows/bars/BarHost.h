@@ -142,18 +142,30 @@ inline COLORREF colorOf(HBRUSH brush)
     return record.lbColor;
 }
 
-/// A pixel of what a brush paints, from its own origin.
+/// What a brush paints, from its own origin.
+class BrushPicture
+{
+public:
+    BrushPicture(HBRUSH brush, CSize size)
+    {
+        m_dc.CreateCompatibleDC(nullptr);
+        m_bitmap.Attach(::CreateBitmap(size.cx, size.cy, 1, 32, nullptr));
+        m_before = ::SelectObject(m_dc.m_hDC, m_bitmap.m_hObject);
+        const RECT all = {0, 0, size.cx, size.cy};
+        ::FillRect(m_dc.m_hDC, &all, brush);
+    }
+    ~BrushPicture() { ::SelectObject(m_dc.m_hDC, m_before); }
+    BrushPicture(const BrushPicture&) = delete;
+    BrushPicture& operator=(const BrushPicture&) = delete;
+    COLORREF at(int x, int y) const { return ::GetPixel(m_dc.m_hDC, x, y); }
+
+private:
+    CDC m_dc;
+    CBitmap m_bitmap;
+    HGDIOBJ m_before = nullptr;
+};
+
 inline COLORREF brushPixel(HBRUSH brush, int x, int y)
 {
-    CClientDC screen(nullptr);
-    CDC dc;
-    CBitmap bitmap;
-    dc.CreateCompatibleDC(nullptr);
-    bitmap.Attach(::CreateBitmap(x + 1, y + 1, 1, 32, nullptr));
-    const HGDIOBJ old = ::SelectObject(dc.m_hDC, bitmap.m_hObject);
-    const RECT all = {0, 0, x + 1, y + 1};
-    ::FillRect(dc.m_hDC, &all, brush);
-    const COLORREF color = ::GetPixel(dc.m_hDC, x, y);
-    ::SelectObject(dc.m_hDC, old);
-    return color;
+    return BrushPicture(brush, CSize(x + 1, y + 1)).at(x, y);
 }

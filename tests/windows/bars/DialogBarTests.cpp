@@ -238,6 +238,28 @@ TEST(DialogBar, the_brush_is_the_piece_of_the_background_behind_the_control)
     }
 }
 
+TEST(DialogBar, each_pixel_of_the_brush_is_that_of_the_whole_picture)
+{
+    const Look look(true);
+    BarHost host(IDD_SMALL_BAR);
+    CWnd& label = host.item(IDC_LABEL);
+    for (const CSize size : {CSize(500, 29), CSize(601, 173), CSize(83, 211), CSize(2000, 40)})
+    {
+        host.bar.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+        const Expected expected(clientOf(host.bar));
+        for (const CPoint at : {CPoint(0, 0), CPoint(13, 7), CPoint(size.cx - 40, size.cy - 9)})
+        {
+            label.SetWindowPos(nullptr, at.x, at.y, 40, 9, SWP_NOZORDER);
+            const BrushPicture picture(ask(host.bar, CTLCOLOR_STATIC, label.m_hWnd).brush, CSize(40, 9));
+            int different = 0;
+            for (int y = 0; y < 9; ++y)
+                for (int x = 0; x < 40; ++x)
+                    different += picture.at(x, y) != expected.at(at.x + x, at.y + y) ? 1 : 0;
+            EXPECT_EQ(different, 0) << size.cx << " by " << size.cy << " at " << at.x << " " << at.y;
+        }
+    }
+}
+
 TEST(DialogBar, the_piece_follows_the_control_and_the_size_of_the_bar)
 {
     const Look look(true);

@@ -174,7 +174,7 @@ TEST(KxPropertySheet, five_constructors_start_with_both_flags_off)
     EXPECT_FALSE(Open().IsPropertySheetDisabled());
 }
 
-TEST(KxPropertySheet, three_hundred_sheets_leave_nothing_behind)
+TEST(KxPropertySheet, two_thousand_sheets_leave_nothing_behind)
 {
     Owner owner;
     const auto use = [&](int times)
@@ -192,7 +192,7 @@ TEST(KxPropertySheet, three_hundred_sheets_leave_nothing_behind)
     };
     use(10);
     const int objects = gdiObjectCount(), windows = windowCount(), others = menuAndIconCount();
-    use(300);
+    use(2000);
     EXPECT_EQ(gdiObjectCount(), objects);
     EXPECT_EQ(windowCount(), windows);
     EXPECT_EQ(menuAndIconCount(), others);

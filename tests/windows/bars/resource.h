@@ -6,6 +6,9 @@
 #define IDD_INNER 302
 #define IDD_SMALL_BAR 303
 #define IDD_SHEET_PAGE 304
+#define IDD_CUT_SHORT 305
+#define IDD_TOO_MANY 306
+#define IDD_NOT_A_TEMPLATE 307
 #define IDC_LABEL 1001
 #define IDC_EDIT 1002
 #define IDC_LIST 1003
