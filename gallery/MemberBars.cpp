@@ -2,8 +2,6 @@
 #include "MemberBars.h"
 #include "MemberSheet.h"
 #include "resource.h"
-#include <algorithm>
-#include <array>
 
 namespace
 {
@@ -26,28 +24,34 @@ void CMemberBar::setDisabled(bool disable)
 
 void CMemberBar::OnInitDialogBar()
 {
-    SetHelpId(IDC_MEMBER_HELP);
-    SendDlgItemMessage(IDC_MEMBER_SECTION, CB_RESETCONTENT);
-    for (const wchar_t* section : sections)
-        SendDlgItemMessage(IDC_MEMBER_SECTION, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(section));
+    fill();
     CKxDialogBarEx::OnInitDialogBar();
     InitDlgBarFinished();
 }
 
-void CMemberBar::DoDataExchange(CDataExchange* exchange)
+void CMemberBar::fillList(int id, UINT empty, UINT add, std::span<const wchar_t* const> lines)
+{
+    SendDlgItemMessage(id, empty);
+    for (const wchar_t* line : lines)
+        SendDlgItemMessage(id, add, 0, reinterpret_cast<LPARAM>(line));
+}
+
+void CSectionBar::fill()
+{
+    SetHelpId(IDC_MEMBER_HELP);
+    fillList(IDC_MEMBER_SECTION, CB_RESETCONTENT, CB_ADDSTRING, sections);
+}
+
+void CSectionBar::DoDataExchange(CDataExchange* exchange)
 {
     DDX_CBString(exchange, IDC_MEMBER_SECTION, m_member.section);
     DDX_Text(exchange, IDC_MEMBER_LENGTH, m_member.length);
     DDX_Check(exchange, IDC_MEMBER_FIXED, m_member.fixed);
 }
 
-void CLoadsBar::OnInitDialogBar()
+void CLoadsBar::fill()
 {
-    SendDlgItemMessage(IDC_LOADS_LIST, LB_RESETCONTENT);
-    for (const wchar_t* combination : combinations)
-        SendDlgItemMessage(IDC_LOADS_LIST, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(combination));
-    CKxDialogBarEx::OnInitDialogBar();
-    InitDlgBarFinished();
+    fillList(IDC_LOADS_LIST, LB_RESETCONTENT, LB_ADDSTRING, combinations);
 }
 
 void CLoadsBar::DoDataExchange(CDataExchange* exchange)
@@ -135,9 +139,9 @@ bool CMemberFrame::makeIn(CWnd* parent, const CRect& place)
     if (!Create(nullptr, L"", WS_CHILD | WS_VISIBLE | WS_BORDER | WS_CLIPCHILDREN, place, parent))
         return false;
     EnableDocking(CBRS_ALIGN_ANY);
-    memberBar.EnableDocking(CBRS_ORIENT_HORZ);
+    sectionBar.EnableDocking(CBRS_ORIENT_HORZ);
     loadsBar.EnableDocking(CBRS_ORIENT_VERT);
-    const bool made = memberBar.Create(this, IDD_MEMBER_BAR, CBRS_TOP, AFX_IDW_DIALOGBAR) &&
+    const bool made = sectionBar.Create(this, IDD_MEMBER_BAR, CBRS_TOP, AFX_IDW_DIALOGBAR) &&
                       loadsBar.Create(this, IDD_LOADS_BAR, CBRS_LEFT, AFX_IDW_DIALOGBAR + 1) &&
                       m_plan.Create(nullptr, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this, AFX_IDW_PANE_FIRST);
     RecalcLayout();
@@ -162,7 +166,7 @@ void CMemberFrame::setPainted(bool painted)
 
 void CMemberFrame::setDisabled(bool disabled)
 {
-    memberBar.setDisabled(disabled);
+    sectionBar.setDisabled(disabled);
     loadsBar.setDisabled(disabled);
 }
 
@@ -177,7 +181,7 @@ void CMemberFrame::dock(CControlBar& bar, UINT side)
 void CMemberFrame::OnChanged()
 {
     // A notification comes before the combo box's own text has changed.
-    memberBar.UpdateData();
+    sectionBar.UpdateData();
     loadsBar.UpdateData();
     m_plan.Invalidate();
     if (onChange)
@@ -186,7 +190,7 @@ void CMemberFrame::OnChanged()
 
 void CMemberFrame::OnUpdateProperties(CCmdUI* ui)
 {
-    ui->Enable(!memberBar.disabled);
+    ui->Enable(!sectionBar.disabled);
 }
 
 void CMemberFrame::OnHelpButton()
@@ -200,14 +204,15 @@ void CMemberFrame::OnProperties()
 {
     CMemberSheet sheet(member, this, m_readOnly);
     sheet.onShown = onSheet;
+    sheet.onApplied = [this] { OnChanged(); };
     sheet.DoModal();
-    OnChanged();
 }
 
 CString CMemberFrame::stateText() const
 {
     CString text;
-    text.Format(L"%s   |   %s m, %s ends   |   help asked for %d times", static_cast<LPCTSTR>(member.section),
-                static_cast<LPCTSTR>(member.length), member.fixed ? L"fixed" : L"hinged", m_helps);
+    text.Format(L"%s: %s, %s   |   %s m, %s ends   |   help asked for %d %s", member.name.GetString(),
+                member.section.GetString(), steels[static_cast<size_t>(member.material)], member.length.GetString(),
+                member.fixed ? L"fixed" : L"hinged", m_helps, m_helps == 1 ? L"time" : L"times");
     return text;
 }

@@ -2,10 +2,15 @@
 #pragma once
 #include <afxext.h>
 
+#include <array>
 #include <functional>
+#include <span>
 
 #include "oxa/dialogs/KxDialogBarEx.h"
 #include "oxa/dialogs/KxPropertySheet.h"
+
+/// The materials that a member can have.
+inline constexpr std::array steels = {L"S 235", L"S 275", L"S 355", L"S 460"};
 
 /// What the bars and the sheet change.
 struct Member
@@ -30,9 +35,22 @@ public:
 
 protected:
     void OnInitDialogBar() override;
-    void DoDataExchange(CDataExchange* exchange) override;
+    /// Fills the lists.
+    virtual void fill() = 0;
+    /// Gives a list its lines, by the messages that empty it and add to it.
+    void fillList(int id, UINT empty, UINT add, std::span<const wchar_t* const> lines);
 
     Member& m_member;
+};
+
+class CSectionBar : public CMemberBar
+{
+public:
+    using CMemberBar::CMemberBar;
+
+protected:
+    void fill() override;
+    void DoDataExchange(CDataExchange* exchange) override;
 };
 
 class CLoadsBar : public CMemberBar
@@ -41,7 +59,7 @@ public:
     using CMemberBar::CMemberBar;
 
 protected:
-    void OnInitDialogBar() override;
+    void fill() override;
     void DoDataExchange(CDataExchange* exchange) override;
 };
 
@@ -78,7 +96,7 @@ public:
     CString stateText() const;
 
     Member member;
-    CMemberBar memberBar{member};
+    CSectionBar sectionBar{member};
     CLoadsBar loadsBar{member};
 
 protected:

@@ -8,27 +8,44 @@ constexpr UINT_PTR shownTimer = 1;
 constexpr UINT shownDelay = 150;
 } // namespace
 
-CNamePage::CNamePage(Member& member) : CPropertyPage(IDD_SHEET_MEMBER), m_member(member) {}
+BEGIN_MESSAGE_MAP(CMemberPage, CPropertyPage)
+    // void OnTyped()
+    ON_EN_CHANGE(IDC_SHEET_NAME, &CMemberPage::OnTyped)
+    ON_CBN_SELCHANGE(IDC_SHEET_MATERIAL, &CMemberPage::OnTyped)
+END_MESSAGE_MAP()
+
+// Every page that was shown comes here, and the copy has what all of them show.
+BOOL CMemberPage::OnApply()
+{
+    m_member.name = m_copy.name;
+    m_member.material = m_copy.material;
+    SetModified(FALSE);
+    if (onApplied)
+        onApplied();
+    return CPropertyPage::OnApply();
+}
+
+CNamePage::CNamePage(Member& member, Member& copy) : CMemberPage(IDD_SHEET_MEMBER, member, copy) {}
 
 void CNamePage::DoDataExchange(CDataExchange* exchange)
 {
-    CPropertyPage::DoDataExchange(exchange);
-    DDX_Text(exchange, IDC_SHEET_NAME, m_member.name);
+    CMemberPage::DoDataExchange(exchange);
+    DDX_Text(exchange, IDC_SHEET_NAME, m_copy.name);
 }
 
-CMaterialPage::CMaterialPage(Member& member) : CPropertyPage(IDD_SHEET_MATERIAL), m_member(member) {}
+CMaterialPage::CMaterialPage(Member& member, Member& copy) : CMemberPage(IDD_SHEET_MATERIAL, member, copy) {}
 
 BOOL CMaterialPage::OnInitDialog()
 {
-    for (const wchar_t* steel : {L"S 235", L"S 275", L"S 355", L"S 460"})
+    for (const wchar_t* steel : steels)
         SendDlgItemMessage(IDC_SHEET_MATERIAL, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(steel));
-    return CPropertyPage::OnInitDialog();
+    return CMemberPage::OnInitDialog();
 }
 
 void CMaterialPage::DoDataExchange(CDataExchange* exchange)
 {
-    CPropertyPage::DoDataExchange(exchange);
-    DDX_CBIndex(exchange, IDC_SHEET_MATERIAL, m_member.material);
+    CMemberPage::DoDataExchange(exchange);
+    DDX_CBIndex(exchange, IDC_SHEET_MATERIAL, m_copy.material);
 }
 
 BEGIN_MESSAGE_MAP(CMemberSheet, CKxPropertySheet)
@@ -37,11 +54,18 @@ BEGIN_MESSAGE_MAP(CMemberSheet, CKxPropertySheet)
 END_MESSAGE_MAP()
 
 CMemberSheet::CMemberSheet(Member& member, CWnd* parent, bool readOnly)
-    : CKxPropertySheet(L"Properties of " + member.name, parent, 0), m_name(member), m_material(member),
-      m_readOnly(readOnly)
+    : CKxPropertySheet(L"Properties of " + member.name, parent, 0), m_copy(member), m_name(member, m_copy),
+      m_material(member, m_copy), m_readOnly(readOnly)
 {
-    AddPage(&m_name);
-    AddPage(&m_material);
+    for (CMemberPage* page : {static_cast<CMemberPage*>(&m_name), static_cast<CMemberPage*>(&m_material)})
+    {
+        page->onApplied = [this]
+        {
+            if (onApplied)
+                onApplied();
+        };
+        AddPage(page);
+    }
 }
 
 BOOL CMemberSheet::OnInitDialog()

@@ -2,29 +2,45 @@
 #pragma once
 #include "MemberBars.h"
 
-class CNamePage : public CPropertyPage
+/// A page that works on a copy of the member: what is typed counts when it is applied.
+class CMemberPage : public CPropertyPage
 {
 public:
-    explicit CNamePage(Member& member);
+    CMemberPage(UINT templateId, Member& member, Member& copy)
+        : CPropertyPage(templateId), m_copy(copy), m_member(member)
+    {
+    }
+    BOOL OnApply() override;
+    /// Called when the member has been changed.
+    std::function<void()> onApplied;
 
 protected:
-    void DoDataExchange(CDataExchange* exchange) override;
+    DECLARE_MESSAGE_MAP()
+    void OnTyped() { SetModified(); }
+
+    Member& m_copy;
 
 private:
     Member& m_member;
 };
 
-class CMaterialPage : public CPropertyPage
+class CNamePage : public CMemberPage
 {
 public:
-    explicit CMaterialPage(Member& member);
+    CNamePage(Member& member, Member& copy);
+
+protected:
+    void DoDataExchange(CDataExchange* exchange) override;
+};
+
+class CMaterialPage : public CMemberPage
+{
+public:
+    CMaterialPage(Member& member, Member& copy);
 
 protected:
     BOOL OnInitDialog() override;
     void DoDataExchange(CDataExchange* exchange) override;
-
-private:
-    Member& m_member;
 };
 
 class CMemberSheet : public CKxPropertySheet
@@ -35,12 +51,15 @@ public:
     BOOL OnInitDialog() override;
     /// Where given: called when the sheet has been shown for a moment; it is cancelled then.
     std::function<void()> onShown;
+    /// Where given: called when a page has changed the member.
+    std::function<void()> onApplied;
 
 protected:
     DECLARE_MESSAGE_MAP()
     void OnTimer(UINT_PTR id);
 
 private:
+    Member m_copy; ///< what the pages show
     CNamePage m_name;
     CMaterialPage m_material;
     bool m_readOnly;

@@ -52,7 +52,7 @@ void CPageBars::OnDisabled()
 
 void CPageBars::OnSides()
 {
-    m_frame->dock(m_frame->memberBar, isChecked(IDC_BARS_BOTTOM) ? AFX_IDW_DOCKBAR_BOTTOM : AFX_IDW_DOCKBAR_TOP);
+    m_frame->dock(m_frame->sectionBar, isChecked(IDC_BARS_BOTTOM) ? AFX_IDW_DOCKBAR_BOTTOM : AFX_IDW_DOCKBAR_TOP);
     m_frame->dock(m_frame->loadsBar, isChecked(IDC_BARS_RIGHT) ? AFX_IDW_DOCKBAR_RIGHT : AFX_IDW_DOCKBAR_LEFT);
 }
 
@@ -79,7 +79,7 @@ void CPageBars::walk(const TakePicture& take)
     click(middleOf(IDC_BARS_PAINTED));
     take(L"2-plain");
     click(middleOf(IDC_BARS_PAINTED));
-    CWnd& bar = m_frame->memberBar;
+    CWnd& bar = m_frame->sectionBar;
     click(centreOf(bar.GetDlgItem(IDC_MEMBER_FIXED)->m_hWnd));
     click(centreOf(m_frame->loadsBar.GetDlgItem(IDC_LOADS_WIND)->m_hWnd));
     bar.GetDlgItem(IDC_MEMBER_LENGTH)->SetFocus();
