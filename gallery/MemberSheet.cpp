@@ -14,6 +14,15 @@ BEGIN_MESSAGE_MAP(CMemberPage, CPropertyPage)
     ON_CBN_SELCHANGE(IDC_SHEET_MATERIAL, &CMemberPage::OnTyped)
 END_MESSAGE_MAP()
 
+BOOL CMemberPage::OnInitDialog()
+{
+    const BOOL answer = CPropertyPage::OnInitDialog();
+    if (readOnly)
+        for (HWND child = ::GetWindow(m_hWnd, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
+            ::EnableWindow(child, FALSE);
+    return answer;
+}
+
 // Every page that was shown comes here, and the copy has what all of them show.
 BOOL CMemberPage::OnApply()
 {
@@ -59,6 +68,7 @@ CMemberSheet::CMemberSheet(Member& member, CWnd* parent, bool readOnly)
 {
     for (CMemberPage* page : {static_cast<CMemberPage*>(&m_name), static_cast<CMemberPage*>(&m_material)})
     {
+        page->readOnly = readOnly;
         page->onApplied = [this]
         {
             if (onApplied)

@@ -10,7 +10,9 @@ public:
         : CPropertyPage(templateId), m_copy(copy), m_member(member)
     {
     }
+    BOOL OnInitDialog() override;
     BOOL OnApply() override;
+    bool readOnly = false; ///< before it is shown: its controls are disabled
     /// Called when the member has been changed.
     std::function<void()> onApplied;
 

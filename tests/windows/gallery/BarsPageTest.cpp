@@ -215,15 +215,17 @@ TEST(BarsPage, a_sheet_for_reading_only_has_no_ok_and_takes_no_enter)
 {
     BarsHost host;
     host.clickOn(IDC_BARS_READ_ONLY);
-    bool ok = true;
+    bool ok = true, apply = true;
     ModalUser user({[&]
                     {
                         ok = ::IsWindowEnabled(sheetButton(IDOK)) != FALSE;
                         typeInto(IDC_SHEET_NAME, L"B 9");
+                        apply = ::IsWindowEnabled(sheetButton(ID_APPLY_NOW)) != FALSE;
                         pressForModal(VK_RETURN);
                         pressForModal(VK_ESCAPE);
                     }});
     host.clickItem(IDC_MEMBER_PROPERTIES);
     EXPECT_FALSE(ok);
+    EXPECT_FALSE(apply) << "nothing could be typed";
     EXPECT_TRUE(host.says(L"B 1: HE 200 A, S 235"));
 }
