@@ -142,20 +142,19 @@ void CWndCombo::SetCurrent(int index)
     m_current = index;
 }
 
-void CWndCombo::ReleaseMouse()
+// Hides it and gives the mouse back; false when it has gone over that.
+bool CWndCombo::Close()
 {
-    if (::GetCapture() == m_hWnd)
+    const Surviving here(*this);
+    Hide();
+    if (here && ::GetCapture() == m_hWnd)
         ::ReleaseCapture();
+    return static_cast<bool>(here);
 }
 
 void CWndCombo::Cancel()
 {
-    const Surviving here(*this);
-    Hide();
-    if (!here)
-        return;
-    ReleaseMouse();
-    if (!here)
+    if (!Close())
         return;
     m_current = none;
     if (CKxButtonCombo* const owner = Owner())
@@ -180,11 +179,7 @@ void CWndCombo::OnLButtonUp(UINT flags, CPoint point)
         if (!here)
             return;
         m_current = none;
-        Hide();
-        if (!here)
-            return;
-        ReleaseMouse();
-        if (!here)
+        if (!Close())
             return;
     }
     CWnd::OnLButtonUp(flags, point);

@@ -270,18 +270,16 @@ void CPagePickers::openPalette(CKxButtonCombo& combo, CPoint onPalette)
 void CPagePickers::walk(const TakePicture& take)
 {
     take(L"1-at-first");
-    openPalette(m_hatch, CPoint(60, 40));
-    take(L"2-pictures-with-names");
-    mouseButton(MOUSEEVENTF_LEFTUP);
-    openPalette(m_section, CPoint(70, 40));
-    take(L"3-pictures");
-    mouseButton(MOUSEEVENTF_LEFTUP);
-    openPalette(m_paint, CPoint(100, 10));
-    take(L"4-colours-of-the-page");
-    mouseButton(MOUSEEVENTF_LEFTUP);
-    openPalette(m_system, CPoint(60, 10));
-    take(L"5-colours-of-the-system");
-    mouseButton(MOUSEEVENTF_LEFTUP);
+    const auto pick = [&](CKxButtonCombo& combo, CPoint onPalette, const wchar_t* picture)
+    {
+        openPalette(combo, onPalette);
+        take(picture);
+        mouseButton(MOUSEEVENTF_LEFTUP);
+    };
+    pick(m_hatch, CPoint(60, 40), L"2-pictures-with-names");
+    pick(m_section, CPoint(70, 40), L"3-pictures");
+    pick(m_paint, CPoint(100, 10), L"4-colours-of-the-page");
+    pick(m_system, CPoint(60, 10), L"5-colours-of-the-system");
     click(middleOf(IDC_PICK_ENABLED));
     for (const int id : {IDC_TRY_TAB, IDC_TRY_DEFAULT})
         click(middleOf(id));

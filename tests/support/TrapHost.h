@@ -14,7 +14,7 @@
 #include <vector>
 
 #include "support/Guarded.h"
-#include "support/RealInput.h"
+#include "support/HostWindow.h"
 
 /// A kind of message: of WM_COMMAND, WM_NOTIFY and WM_PARENTNOTIFY each code is one of its own.
 struct Kind
@@ -41,20 +41,11 @@ inline std::ostream& operator<<(std::ostream& out, const Kind& kind)
 }
 
 /// A foreground window of 400 by 320 that acts at the first message of a kind, and then takes no part in it if it is gone.
-class TrapHost : public CWnd
+class TrapHost : public HostWindow
 {
 public:
-    TrapHost()
-    {
-        CreateEx(0, AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_BTNFACE)), L"host",
-                 WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN, CRect(100, 100, 500, 420), nullptr, 0);
-        SetForegroundWindow();
-        pumpFor(0);
-        heard.clear();
-    }
-    ~TrapHost() override { DestroyWindow(); }
-    TrapHost(const TrapHost&) = delete;
-    TrapHost& operator=(const TrapHost&) = delete;
+    TrapHost() : HostWindow(CRect(100, 100, 500, 420), WS_POPUP | WS_CLIPCHILDREN) {}
+    ~TrapHost() override { DestroyWindow(); } // while it is whole, so that it hears of the end
 
     std::vector<Kind> heard; ///< each kind once, in order
     std::optional<Kind> trap;

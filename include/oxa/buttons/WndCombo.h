@@ -64,7 +64,7 @@ private:
     BOOL CreateHidden(CKxButtonCombo* owner, CPoint corner);
     void SetLayout(const ButtonComboPalette& layout);
     int PrepareCaptions(const CString& captions);
-    void ReleaseMouse();
+    bool Close();
     void Cancel();
     void DrawPalette(CDC& dc, const CRect& client, CSize seen);
     void DrawCell(CDC& dc, const ButtonComboPalette::Cell& cell);

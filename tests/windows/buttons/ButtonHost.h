@@ -8,23 +8,17 @@
 #include <vector>
 
 #include "resource.h"
+#include "support/HostWindow.h"
 #include "support/MessageRecorder.h"
 #include "support/Pixels.h"
 #include "support/RealInput.h"
 
 /// A window at 200, 150 of 400 by 300 pixels, without a caption.
-class ButtonHost : public CWnd
+class ButtonHost : public HostWindow
 {
 public:
-    explicit ButtonHost(CRect place = CRect(200, 150, 600, 450))
-    {
-        CreateEx(0, AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_BTNFACE)), L"host",
-                 WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN, place, nullptr, 0);
-        pumpFor(0);
-    }
-    ButtonHost(const ButtonHost&) = delete;
-    ButtonHost& operator=(const ButtonHost&) = delete;
-    ~ButtonHost() override { DestroyWindow(); }
+    explicit ButtonHost(CRect place = CRect(200, 150, 600, 450)) : HostWindow(place, WS_POPUP | WS_CLIPCHILDREN) {}
+    ~ButtonHost() override { DestroyWindow(); } // while it is whole, so that it hears of the end
 
     /// Called at each message of the control, when it is of the kind that the test waits for.
     std::function<void()> onTold;

@@ -9,6 +9,7 @@
 #include <vector>
 #include "oxa/dropdowns/KxComboColorPicker.h"
 #include "support/HandleBalance.h"
+#include "support/HostWindow.h"
 #include "support/RealInput.h"
 
 /// A message that a control handed on. The message's name helps to read a failed comparison.
@@ -26,18 +27,11 @@ inline std::ostream& operator<<(std::ostream& out, const Heard& one)
 }
 
 /// The host: a foreground window that writes down the keys, clicks and private messages that reach it.
-class DropHost : public CWnd
+class DropHost : public HostWindow
 {
 public:
-    DropHost()
-    {
-        CreateEx(0, AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_BTNFACE)), L"host",
-                 WS_POPUP | WS_CAPTION | WS_VISIBLE, CRect(100, 100, 500, 420), nullptr, 0);
-        SetForegroundWindow();
-        pumpFor(10);
-        heard.clear();
-    }
-    ~DropHost() override { DestroyWindow(); }
+    DropHost() : HostWindow(CRect(100, 100, 500, 420), WS_POPUP | WS_CAPTION) {}
+    ~DropHost() override { DestroyWindow(); } // while it is whole, so that it hears of the end
 
     std::vector<Heard> heard;
     std::function<void(const Heard&)> onHear; ///< runs inside the handler
