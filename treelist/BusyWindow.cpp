@@ -23,22 +23,22 @@ struct Work
 };
 
 /// The watched windows of this thread; a window's messages come to its own thread alone.
-std::unordered_map<HWND, Work>& works()
+struct Watched
 {
-    thread_local std::unordered_map<HWND, Work> all;
+    std::unordered_map<HWND, Work> works;
+    std::uint64_t changingMessages = 0;
+
+    Work* workOf(HWND window)
+    {
+        const auto found = works.find(window);
+        return found == works.end() ? nullptr : &found->second;
+    }
+};
+
+Watched& watched()
+{
+    thread_local Watched all;
     return all;
-}
-
-Work* workOf(HWND window)
-{
-    const auto found = works().find(window);
-    return found == works().end() ? nullptr : &found->second;
-}
-
-std::uint64_t& changingMessages()
-{
-    thread_local std::uint64_t count = 0;
-    return count;
 }
 
 /// What changes in a window by such a message comes to it as a message of its own.
@@ -64,22 +64,31 @@ bool mayChangeItself(UINT message)
     }
 }
 
+/// The framework's own procedure needs no detour by the platform, and every row that is inserted comes by here.
+LRESULT callNext(WNDPROC next, HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const bool isFramework = next == AfxGetAfxWndProc();
+    return isFramework ? next(window, message, wParam, lParam)
+                       : ::CallWindowProc(next, window, message, wParam, lParam);
+}
+
 LRESULT CALLBACK countMessages(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    Work* const work = workOf(window); // stays where it is
+    Watched& all = watched();
+    Work* const work = all.workOf(window); // stays where it is
     if (work == nullptr)
         return ::DefWindowProc(window, message, wParam, lParam);
     if (mayChangeItself(message))
-        ++changingMessages();
+        ++all.changingMessages;
     ++work->depth;
     const WNDPROC next = work->givenUp ? work->platform : work->before;
-    const LRESULT result = ::CallWindowProc(next, window, message, wParam, lParam);
+    const LRESULT result = callNext(next, window, message, wParam, lParam);
     --work->depth;
     work->ended = work->ended || message == WM_NCDESTROY;
     if (work->depth > 0)
         return result;
     if (work->ended)
-        works().erase(window);
+        all.works.erase(window);
     else if (work->givenUp && !work->ending)
     {
         work->ending = true;
@@ -92,9 +101,9 @@ LRESULT CALLBACK countMessages(HWND window, UINT message, WPARAM wParam, LPARAM 
 
 void BusyWindow::Watch(HWND window)
 {
-    if (window == nullptr || workOf(window) != nullptr)
+    if (window == nullptr || watched().workOf(window) != nullptr)
         return;
-    Work& work = works()[window];
+    Work& work = watched().works[window];
     work.platform = reinterpret_cast<WNDPROC>(::GetClassLongPtr(window, GCLP_WNDPROC));
     work.before =
         reinterpret_cast<WNDPROC>(::SetWindowLongPtr(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&countMessages)));
@@ -102,18 +111,18 @@ void BusyWindow::Watch(HWND window)
 
 std::uint64_t BusyWindow::ChangingMessages()
 {
-    return changingMessages();
+    return watched().changingMessages;
 }
 
 bool BusyWindow::IsBusy(HWND window)
 {
-    const Work* const work = workOf(window);
+    const Work* const work = watched().workOf(window);
     return work != nullptr && work->depth > 0;
 }
 
 void BusyWindow::GiveUp(HWND window)
 {
-    Work* const work = workOf(window);
+    Work* const work = watched().workOf(window);
     if (work == nullptr)
         return;
     work->givenUp = true;

@@ -154,8 +154,7 @@ CKxTreeListFrame::BarInputs CKxTreeListFrame::ReadInputs(bool barShown)
 
 bool CKxTreeListFrame::IsSettled()
 {
-    return m_settled && m_settled->messages == treelist::BusyWindow::ChangingMessages() &&
-           *m_settled == ReadInputs(m_settled->barShown);
+    return m_settled && *m_settled == ReadInputs(m_settled->barShown);
 }
 
 void CKxTreeListFrame::ResetScrollBar()

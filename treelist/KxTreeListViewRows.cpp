@@ -34,9 +34,12 @@ BOOL ShowLook(CWnd& tree, BOOL isSet, BOOL redraw)
     return isSet ? 1 : 0;
 }
 
-CKxTreeListRow RowNamed(const wchar_t* text)
+/// A row for that store.
+CKxTreeListRow RowNamed(const wchar_t* text, const treelist::RowStore& store)
 {
     CKxTreeListRow row;
+    if (const int room = store.UsualLength(); room > 0)
+        row.texts.Preallocate(room);
     treelist::RowCells::Write(row.texts, row.separator, 0, text);
     return row;
 }
@@ -49,7 +52,7 @@ HTREEITEM CKxTreeListViewCtrl::InsertItem(const wchar_t* text, HTREEITEM parent,
 {
     treelist::NodeBlock block;
     block.mask = rowMask;
-    return RowsOf(*this, *m_rows).Insert(block, RowNamed(text), m_itemCount, parent, after);
+    return RowsOf(*this, *m_rows).Insert(block, RowNamed(text, *m_rows), m_itemCount, parent, after);
 }
 
 HTREEITEM CKxTreeListViewCtrl::InsertItem(const wchar_t* text, int image, int selectedImage, HTREEITEM parent,
@@ -59,7 +62,7 @@ HTREEITEM CKxTreeListViewCtrl::InsertItem(const wchar_t* text, int image, int se
     block.mask = rowMaskWithImages;
     block.image = image;
     block.selectedImage = selectedImage;
-    return RowsOf(*this, *m_rows).Insert(block, RowNamed(text), m_itemCount, parent, after);
+    return RowsOf(*this, *m_rows).Insert(block, RowNamed(text, *m_rows), m_itemCount, parent, after);
 }
 
 HTREEITEM CKxTreeListViewCtrl::InsertItem(unsigned mask, const wchar_t* text, int image, int selectedImage,
@@ -72,7 +75,7 @@ HTREEITEM CKxTreeListViewCtrl::InsertItem(unsigned mask, const wchar_t* text, in
     block.selectedImage = selectedImage;
     block.state = state;
     block.stateMask = stateMask;
-    CKxTreeListRow row = RowNamed(text);
+    CKxTreeListRow row = RowNamed(text, *m_rows);
     row.data = static_cast<std::uint64_t>(data);
     return RowsOf(*this, *m_rows).Insert(block, row, m_itemCount, parent, after);
 }

@@ -1,6 +1,7 @@
 // The cells of a row, packed into one text: how one of them is read and written.
 #include "RowCells.h"
 
+#include <algorithm>
 #include <cwchar>
 
 namespace treelist
@@ -29,6 +30,22 @@ CellStart FindCell(std::wstring_view packed, wchar_t separator, int column)
         start.position = found + 1;
     }
     return start;
+}
+
+/// Appends a number of separators and a text, where there is room for them. The text may stand in `packed` itself.
+bool AppendInPlace(CString& packed, std::size_t separators, wchar_t separator, std::wstring_view text)
+{
+    const auto length = static_cast<std::size_t>(packed.GetLength());
+    const auto most = std::min(static_cast<std::size_t>(packed.GetAllocLength()), std::size_t{RowCells::c_nLongestRow});
+    const std::size_t room = std::max(most, length) - length;
+    if (text.size() > room || separators > room - text.size())
+        return false;
+    if (separators + text.size() == 0)
+        return true;
+    wchar_t* to = packed.GetBufferSetLength(static_cast<int>(length + separators + text.size())) + length;
+    to = std::wmemset(to, separator, separators) + separators;
+    text.copy(to, text.size());
+    return true;
 }
 
 /// Joins three texts, the middle one being a number of separators and a text.
@@ -84,8 +101,9 @@ bool RowCells::Write(CString& packed, wchar_t separator, int column, const wchar
     const std::wstring_view written = text == nullptr ? std::wstring_view() : std::wstring_view(text);
     const std::wstring_view old = ViewOf(packed);
     const CellStart start = FindCell(old, separator, column);
-    if (start.missing > 0)
-        return Join(packed, old, static_cast<std::size_t>(start.missing), separator, written, {});
+    const auto missing = static_cast<std::size_t>(start.missing);
+    if (missing > 0 || old.empty())
+        return AppendInPlace(packed, missing, separator, written) || Join(packed, old, missing, separator, written, {});
     // A separator at position 0 counts as none, on purpose: what stands before the cell is dropped.
     const std::size_t prefix = start.position > 1 ? start.position : 0;
     const std::size_t end = old.find(separator, start.position);

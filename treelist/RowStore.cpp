@@ -11,6 +11,7 @@ namespace
 {
 constexpr std::size_t firstSize = 16;
 constexpr std::size_t largestSize = 1024;
+constexpr int mostRoom = 127;
 } // namespace
 
 /// A base, so that what is known beside the record takes the room that is left behind its last field.
@@ -95,7 +96,13 @@ CKxTreeListRow* RowStore::Create(const CKxTreeListRow& row)
     ++block.used;
     ++block.living;
     ++m_living;
+    m_newest = &place;
     return &place;
+}
+
+int RowStore::UsualLength() const
+{
+    return m_newest == nullptr ? 0 : std::min(m_newest->texts.GetLength(), mostRoom);
 }
 
 CKxTreeListRow* RowStore::Find(LPARAM address) const
@@ -129,6 +136,7 @@ void RowStore::Reclaim()
 {
     LeaveLiving();
     m_open = 0;
+    m_newest = nullptr;
     m_nextSize = firstSize;
     m_living = 0;
 }

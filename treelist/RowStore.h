@@ -29,6 +29,8 @@ public:
 
     /// A new record with the fields of `row`.
     CKxTreeListRow* Create(const CKxTreeListRow& row);
+    /// How much room the texts of the next record may need, in characters: rows of a list are much alike. Moderate in any case.
+    int UsualLength() const;
     /// The record at that address; null when no living record of this store is there.
     CKxTreeListRow* Find(LPARAM address) const;
     /// Empties and forgets a record. Anything else is left alone.
@@ -71,6 +73,7 @@ private:
 
     Blocks m_blocks;           ///< by address
     std::uintptr_t m_open = 0; ///< the block that takes the next record
+    const Place* m_newest = nullptr;
     std::size_t m_nextSize;
     std::size_t m_living = 0;
 };

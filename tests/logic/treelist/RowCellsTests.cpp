@@ -114,6 +114,22 @@ TEST(RowCellsWrite, leaves_copies_of_the_row_alone)
     EXPECT_EQ(copy, L"a\u00b6b");
 }
 
+TEST(RowCellsWrite, appends_where_there_is_room)
+{
+    CString packed(L"a");
+    packed.Preallocate(40);
+    const wchar_t* const place = packed.GetString();
+    EXPECT_TRUE(RowCells::Write(packed, pilcrow, 2, L"bc"));
+    EXPECT_EQ(packed, L"a\u00b6\u00b6bc");
+    EXPECT_TRUE(RowCells::Write(packed, pilcrow, 3, packed.GetString()));
+    EXPECT_EQ(packed, L"a\u00b6\u00b6bc\u00b6a\u00b6\u00b6bc") << "a text out of the row itself";
+    EXPECT_EQ(packed.GetString(), place) << "no new buffer";
+    CString copy = packed;
+    EXPECT_TRUE(RowCells::Write(copy, pilcrow, 6, L"d"));
+    EXPECT_EQ(packed, L"a\u00b6\u00b6bc\u00b6a\u00b6\u00b6bc");
+    EXPECT_EQ(copy, L"a\u00b6\u00b6bc\u00b6a\u00b6\u00b6bc\u00b6d");
+}
+
 TEST(RowCellsWrite, refuses_what_gets_longer_than_a_row_may_be)
 {
     CString packed(L"a");
@@ -126,6 +142,8 @@ TEST(RowCellsWrite, a_row_may_be_exactly_as_long_as_that)
 {
     CString packed(L"a");
     EXPECT_FALSE(RowCells::Write(packed, pilcrow, RowCells::c_nLongestRow - 1, L"x"));
+    packed.Preallocate(RowCells::c_nLongestRow + 10);
+    EXPECT_FALSE(RowCells::Write(packed, pilcrow, RowCells::c_nLongestRow - 1, L"x")) << "though there is room";
     EXPECT_TRUE(RowCells::Write(packed, pilcrow, RowCells::c_nLongestRow - 1, L""));
     EXPECT_EQ(packed.GetLength(), RowCells::c_nLongestRow);
 }
@@ -200,6 +218,7 @@ TEST(RowCellsAgainstCharacters, random_rows_read_and_write_alike)
             text += random() % 4 == 0 ? pilcrow : L'x';
         const int column = static_cast<int>(random() % 8);
         CString packed(row.c_str());
+        packed.Preallocate(static_cast<int>(random() % 20));
         ASSERT_EQ(std::wstring(RowCells::Read(packed, pilcrow, column)), ReadByCharacter(row, column));
         ASSERT_TRUE(RowCells::Write(packed, pilcrow, column, text.c_str()));
         ASSERT_EQ(std::wstring(packed), WriteByCharacter(row, column, text)) << round;

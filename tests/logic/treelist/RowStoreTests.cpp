@@ -118,6 +118,23 @@ TEST(RowStore, a_record_that_nobody_destroyed_outlives_reclaiming_and_the_store)
     EXPECT_EQ(row->texts, L"kept too");
 }
 
+TEST(RowStore, expects_the_next_row_to_be_as_long_as_the_last_one)
+{
+    RowStore store;
+    EXPECT_EQ(store.UsualLength(), 0);
+    CKxTreeListRow* const row = store.Create(RowNamed(L"a"));
+    EXPECT_EQ(store.UsualLength(), 1);
+    row->texts = L"a\u00b6b";
+    EXPECT_EQ(store.UsualLength(), 3) << "as it is by now";
+    row->texts = CString(L'x', 100000);
+    EXPECT_EQ(store.UsualLength(), 127) << "within reason";
+    store.Destroy(RowStore::AddressOf(row));
+    EXPECT_EQ(store.UsualLength(), 0);
+    store.Create(RowNamed(L"b"));
+    store.Reclaim();
+    EXPECT_EQ(store.UsualLength(), 0);
+}
+
 TEST(RowStore, a_rank_stands_beside_each_record)
 {
     RowStore store;
