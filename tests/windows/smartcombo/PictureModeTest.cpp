@@ -367,4 +367,15 @@ TEST(SmartTips, go_to_the_combo_box_or_to_all_pictures_too)
     setMode(*host.smart, 1);
     host.smart->AddFormatToolTip(L"all");
     EXPECT_EQ(tip.GetToolCount(), 5) << "the picker, two buttons, the combo box once more";
+    for (const int id : {1008, 1009, 1037, 1038})
+    {
+        wchar_t text[80] = {};
+        TTTOOLINFOW tool = {};
+        tool.cbSize = sizeof tool;
+        tool.hwnd = host.child(id);
+        tool.uId = reinterpret_cast<UINT_PTR>(tool.hwnd);
+        tool.lpszText = text;
+        tip.SendMessage(TTM_GETTEXTW, 80, reinterpret_cast<LPARAM>(&tool));
+        EXPECT_STREQ(text, id == 1008 ? L"the combo box" : L"all") << id;
+    }
 }

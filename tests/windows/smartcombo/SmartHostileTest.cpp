@@ -272,6 +272,16 @@ TEST(SmartHostile, values_may_be_replaced_while_their_list_is_open)
     EXPECT_EQ(host.shown(), L"[X] Y / X Y / X");
 }
 
+TEST(SmartHostile, a_hidden_combo_box_stays_hidden_when_values_are_replaced)
+{
+    SmartHost host;
+    host.combo().ShowWindow(SW_HIDE);
+    host.remember(L"A B");
+    EXPECT_EQ(host.combo().GetStyle() & WS_VISIBLE, 0U);
+    host.combo().ShowWindow(SW_SHOW);
+    EXPECT_EQ(host.shown(), L"A B / A B / ");
+}
+
 // ---- Many values
 
 namespace
