@@ -33,7 +33,7 @@ public:
 /// A node as it is painted.
 struct VisibleRow
 {
-    HTREEITEM node = nullptr;
+    LPARAM param = 0;
     CRect area;
     bool selected = false;
 };
@@ -47,6 +47,8 @@ Columns ReadColumns(CKxTreeListViewCtrl& tree)
     return columns;
 }
 
+/// The platform's tree may search for a node each time that it is asked about one, so that it is asked little. The rectangle of
+/// a node's text is as high as the whole row.
 std::vector<VisibleRow> VisibleRows(const CTreeCtrl& tree, const Columns& columns)
 {
     std::vector<VisibleRow> rows;
@@ -55,11 +57,14 @@ std::vector<VisibleRow> VisibleRows(const CTreeCtrl& tree, const Columns& column
     for (UINT step = 0; node != nullptr && step < most; ++step, node = tree.GetNextVisibleItem(node))
     {
         CRect text;
-        CRect full;
-        if (!tree.GetItemRect(node, &text, TRUE) || !tree.GetItemRect(node, &full, FALSE))
+        TVITEM item = {};
+        item.mask = TVIF_HANDLE | TVIF_PARAM | TVIF_STATE;
+        item.hItem = node;
+        item.stateMask = TVIS_SELECTED | TVIS_DROPHILITED;
+        if (!tree.GetItemRect(node, &text, TRUE) || !tree.GetItem(&item))
             continue;
-        const UINT state = tree.GetItemState(node, TVIS_SELECTED | TVIS_DROPHILITED);
-        rows.push_back({node, treelist::RowArea(text, full, columns), state != 0});
+        const bool selected = (item.state & item.stateMask) != 0;
+        rows.push_back({item.lParam, treelist::RowArea(text, text, columns), selected});
     }
     return rows;
 }
@@ -154,7 +159,7 @@ void CKxTreeListViewCtrl::PaintRows(CDC& dc, const Columns& columns, const CRect
     dc.SelectObject(&fonts.normal);
     for (const VisibleRow& row : rows)
     {
-        const CKxTreeListRow* const record = m_rows->Find(static_cast<LPARAM>(CTreeCtrl::GetItemData(row.node)));
+        const CKxTreeListRow* const record = m_rows->Find(row.param);
         PrepareRow(dc, row, record == nullptr ? ::GetSysColor(COLOR_WINDOWTEXT) : record->color);
         if (record == nullptr)
             continue;
