@@ -17,7 +17,12 @@ public:
     // ---- What is told
 
     /// No node is left.
-    void Emptied() { *this = KnownNodes(); }
+    void Emptied()
+    {
+        const std::uint64_t steps = m_steps + 1;
+        *this = KnownNodes();
+        m_steps = steps;
+    }
     /// Another changes nodes, or records are destroyed while their nodes stay.
     void Distrust() { m_trusted = false; }
     void RecordWithoutNode() { m_everyRecordHasNode = false; }
@@ -29,9 +34,17 @@ public:
     }
     /// Some order, of which the ranks do not know.
     void Shuffled(Node parent) { m_shuffled.insert(parent); }
-    void StandByRank(Node parent) { m_shuffled.erase(parent); }
+    void StandByRank(Node parent)
+    {
+        ++m_steps;
+        m_shuffled.erase(parent);
+    }
     /// True for the first child: what is above `parent` is asked for then, and told by `HasParentBelow`.
-    bool GetsChild(Node parent) { return parent && m_parents.insert(parent).second; }
+    bool GetsChild(Node parent)
+    {
+        m_isFlat = m_isFlat && !parent;
+        return parent && m_parents.insert(parent).second;
+    }
     void HasParentBelow(Node node) { m_aboveParents.insert(node); }
 
     // ---- Ranks
@@ -44,11 +57,14 @@ public:
             Distrust();
             return 0;
         }
+        ++m_steps;
         const std::uint32_t first = m_lastRank + 1;
         m_lastRank += count;
         return first;
     }
-    std::uint32_t LastRank() const { return m_lastRank; }
+    /// Gets higher whenever ranks are given or put in another order: by it, who puts in a node knows whether a host did more
+    /// meanwhile.
+    std::uint64_t Steps() const { return m_steps; }
 
     // ---- What is known
 
@@ -57,11 +73,15 @@ public:
     bool MayHaveParentBelow(Node node) const { return !m_trusted || m_aboveParents.contains(node); }
     /// Whether all living records with a rank hang on nodes.
     bool EveryRecordHasNode() const { return m_trusted && m_everyRecordHasNode; }
+    /// The same for nodes of the top level.
+    bool EveryRecordIsOnTop() const { return EveryRecordHasNode() && m_isFlat; }
 
 private:
     bool m_trusted = true;
     bool m_everyRecordHasNode = true;
+    bool m_isFlat = true;
     std::uint32_t m_lastRank = 0;
+    std::uint64_t m_steps = 0;
     std::unordered_set<Node> m_shuffled;
     std::unordered_set<Node> m_parents;      ///< some of the nodes with children: those told of since nodes went
     std::unordered_set<Node> m_aboveParents; ///< all nodes with a child that has children, and perhaps others

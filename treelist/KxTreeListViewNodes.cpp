@@ -18,11 +18,12 @@ LRESULT CKxTreeListViewCtrl::OnInsertNode(WPARAM, LPARAM lParam)
         m_known->Distrust();
     else
         RowStore::SetRank(*row, rank);
+    const std::uint64_t steps = m_known->Steps();
     const Surviving here(*this);
     const LRESULT node = Default();
     if (!here)
         return node;
-    if (!behindAll || m_known->LastRank() != rank) // or a host did something meanwhile
+    if (!behindAll || m_known->Steps() != steps) // or a host did something meanwhile
         m_known->Shuffled(parent);
     if (node == 0)
         m_known->RecordWithoutNode();

@@ -132,6 +132,17 @@ void RowStore::DestroyRanked()
                 Destroy(block, block.places[i]);
 }
 
+std::vector<CKxTreeListRow*> RowStore::Ranked() const
+{
+    std::vector<CKxTreeListRow*> ranked;
+    ranked.reserve(m_living);
+    for (const Block& block : m_blocks)
+        for (std::size_t i = 0; i < block.used; ++i)
+            if (block.places[i].living != 0 && block.places[i].rank != 0)
+                ranked.push_back(&block.places[i]);
+    return ranked;
+}
+
 void RowStore::Reclaim()
 {
     LeaveLiving();

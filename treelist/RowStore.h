@@ -37,6 +37,7 @@ public:
     void Destroy(LPARAM address);
     /// All records that have a rank.
     void DestroyRanked();
+    std::vector<CKxTreeListRow*> Ranked() const;
     /// Gives the memory of destroyed records back. For the moment when no node points at one any more.
     void Reclaim();
 

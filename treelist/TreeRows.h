@@ -219,10 +219,28 @@ private:
         return left == right ? 0 : left < right ? -1 : 1;
     }
 
-    /// The children of a node whose ranks tell how they stand, and those ranks: a sort that moves none sees all of them. None
-    /// for fewer than two children.
+    /// The children of a node whose ranks tell how they stand, and those ranks. None for fewer than two children.
     BOOL CollectByRank(Node parent, std::vector<CKxTreeListRow*>& rows, std::vector<std::uint32_t>& ranks)
     {
+        BOOL done = FALSE;
+        if (!parent && m_tree.Known().EveryRecordIsOnTop())
+            rows = m_store.Ranked();
+        if (rows.size() < 2)
+            done = CollectBySort(parent, rows);
+        const auto inFront = [](const CKxTreeListRow* a, const CKxTreeListRow* b)
+        { return RowStore::Rank(*a) < RowStore::Rank(*b); };
+        if (!std::is_sorted(rows.begin(), rows.end(), inFront))
+            std::sort(rows.begin(), rows.end(), inFront);
+        ranks.reserve(rows.size());
+        for (const CKxTreeListRow* const row : rows)
+            ranks.push_back(RowStore::Rank(*row));
+        return done;
+    }
+
+    /// A sort that moves no child sees all of them.
+    BOOL CollectBySort(Node parent, std::vector<CKxTreeListRow*>& rows)
+    {
+        rows.clear();
         const auto see = [&rows](LPARAM param)
         {
             auto& row = *reinterpret_cast<CKxTreeListRow*>(param);
@@ -236,16 +254,8 @@ private:
                                           see(b);
                                           return CompareRanks(a, b);
                                       });
-        const auto inFront = [](const CKxTreeListRow* a, const CKxTreeListRow* b)
-        { return RowStore::Rank(*a) < RowStore::Rank(*b); };
-        if (!std::is_sorted(rows.begin(), rows.end(), inFront))
-            std::sort(rows.begin(), rows.end(), inFront);
-        ranks.reserve(rows.size());
         for (CKxTreeListRow* const row : rows)
-        {
             RowStore::SetMark(*row, false);
-            ranks.push_back(RowStore::Rank(*row));
-        }
         return done;
     }
 

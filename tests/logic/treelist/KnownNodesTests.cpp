@@ -15,7 +15,6 @@ TEST(KnownNodes, rise_in_rank_as_they_come)
     EXPECT_EQ(known.TakeRanks(1, 10), 1U);
     EXPECT_EQ(known.TakeRanks(3, 10), 2U);
     EXPECT_EQ(known.TakeRanks(6, 10), 5U);
-    EXPECT_EQ(known.LastRank(), 10U);
     EXPECT_TRUE(known.RanksTell(top));
     EXPECT_EQ(known.TakeRanks(1, 10), 0U) << "no more";
     EXPECT_FALSE(known.RanksTell(top));
@@ -41,6 +40,21 @@ TEST(KnownNodes, ask_what_is_above_a_parent_once)
     known.HasParentBelow(top);
     EXPECT_TRUE(known.MayHaveParentBelow(top));
     EXPECT_FALSE(known.MayHaveParentBelow(a));
+}
+
+TEST(KnownNodes, are_all_on_top_until_one_comes_below_another)
+{
+    Known known;
+    known.GetsChild(top);
+    EXPECT_TRUE(known.EveryRecordIsOnTop());
+    known.GetsChild(a);
+    EXPECT_FALSE(known.EveryRecordIsOnTop());
+    known.GetsChild(top);
+    EXPECT_FALSE(known.EveryRecordIsOnTop());
+    known.Emptied();
+    EXPECT_TRUE(known.EveryRecordIsOnTop());
+    known.Removed();
+    EXPECT_FALSE(known.EveryRecordIsOnTop()) << "some have no node any more";
 }
 
 TEST(KnownNodes, ask_again_once_nodes_went)
@@ -70,7 +84,25 @@ TEST(KnownNodes, that_another_changes_are_not_known_until_none_is_left)
     EXPECT_TRUE(known.RanksTell(top));
     EXPECT_TRUE(known.EveryRecordHasNode());
     EXPECT_FALSE(known.MayHaveParentBelow(b));
-    EXPECT_EQ(known.LastRank(), 0U);
+    EXPECT_EQ(known.TakeRanks(1, 10), 1U);
+}
+
+TEST(KnownNodes, tell_whether_more_happened_meanwhile)
+{
+    Known known;
+    known.TakeRanks(1, 10);
+    const auto steps = known.Steps();
+    known.Shuffled(a);
+    known.GetsChild(a);
+    EXPECT_EQ(known.Steps(), steps);
+    known.StandByRank(top);
+    EXPECT_GT(known.Steps(), steps);
+    const auto sorted = known.Steps();
+    known.Emptied();
+    EXPECT_GT(known.Steps(), sorted);
+    const auto emptied = known.Steps();
+    known.TakeRanks(1, 10);
+    EXPECT_GT(known.Steps(), emptied);
 }
 
 TEST(KnownNodes, that_never_came_leave_a_record_without_a_node)

@@ -177,7 +177,7 @@ TEST(RowStore, a_copy_of_the_fields_leaves_what_stands_beside_them)
     EXPECT_EQ(RowStore::Rank(*store.Create(*a)), 0U) << "a record of its own";
 }
 
-TEST(RowStore, destroys_the_records_with_a_rank)
+TEST(RowStore, lists_and_destroys_the_records_with_a_rank)
 {
     RowStore store;
     std::vector<CKxTreeListRow*> rows;
@@ -186,7 +186,11 @@ TEST(RowStore, destroys_the_records_with_a_rank)
         rows.push_back(store.Create(RowNamed(L"a")));
         RowStore::SetRank(*rows.back(), i % 3);
     }
+    EXPECT_EQ(store.Ranked().size(), 2000U);
+    for (const CKxTreeListRow* row : store.Ranked())
+        ASSERT_NE(RowStore::Rank(*row), 0U);
     store.DestroyRanked();
+    EXPECT_TRUE(store.Ranked().empty());
     EXPECT_EQ(store.LivingCount(), 1000U);
     for (std::size_t i = 0; i < rows.size(); ++i)
         ASSERT_EQ(store.Find(RowStore::AddressOf(rows[i])) != nullptr, i % 3 == 0) << i;
