@@ -1,7 +1,28 @@
 // A simple main window: accelerators, menu updates, routing to the application.
 #include <afxwin.h>
 
+#include <iterator>
+
 #include "kx/CmdUI.h"
+
+namespace
+{
+constexpr int needsTipText = MAKELONG(TTN_NEEDTEXTW, WM_NOTIFY);
+
+/// The tip of a control is what stands behind the line break of its id's string; in front of it stands its prompt.
+bool giveTipText(NMTTDISPINFOW& info)
+{
+    const bool isWindow = (info.uFlags & TTF_IDISHWND) != 0;
+    const UINT_PTR id = isWindow ? LOWORD(::GetDlgCtrlID(reinterpret_cast<HWND>(info.hdr.idFrom))) : info.hdr.idFrom;
+    CString all;
+    CString tip;
+    if (id == 0 || id > 0xFFFF || !all.LoadString(static_cast<UINT>(id)) || !AfxExtractSubString(tip, all, 1))
+        return false;
+    ::lstrcpynW(info.szText, tip, static_cast<int>(std::size(info.szText)));
+    info.lpszText = info.szText;
+    return true;
+}
+} // namespace
 
 const CRect CFrameWnd::rectDefault(CW_USEDEFAULT, CW_USEDEFAULT, 0, 0);
 
@@ -133,7 +154,11 @@ BOOL CFrameWnd::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* inf
     if (CWnd::OnCmdMsg(id, code, extra, info))
         return TRUE;
     CWinThread* thread = AfxGetThread();
-    return thread != nullptr && thread->OnCmdMsg(id, code, extra, info);
+    if (thread != nullptr && thread->OnCmdMsg(id, code, extra, info))
+        return TRUE;
+    if (code != needsTipText || extra == nullptr || info != nullptr)
+        return FALSE;
+    return giveTipText(*reinterpret_cast<NMTTDISPINFOW*>(static_cast<AFX_NOTIFY*>(extra)->pNMHDR));
 }
 
 // Each item is asked for when its menu opens.

@@ -10,14 +10,18 @@ constexpr UINT tipStyle = TTS_ALWAYSTIP | TTS_NOPREFIX;
 HWND tipWindow(HWND owner)
 {
     KxThreadState& thread = kxThread();
-    if (thread.toolTip != nullptr && (!::IsWindow(thread.toolTip) || ::GetWindow(thread.toolTip, GW_OWNER) != owner))
+    const HWND top = ::GetAncestor(owner, GA_ROOT); // a window that a child owns is its top-level window's
+    if (thread.toolTip != nullptr && (!::IsWindow(thread.toolTip) || ::GetWindow(thread.toolTip, GW_OWNER) != top))
     {
         ::DestroyWindow(thread.toolTip);
         thread.toolTip = nullptr;
     }
     if (thread.toolTip == nullptr)
-        thread.toolTip = ::CreateWindowEx(WS_EX_TOPMOST, TOOLTIPS_CLASS, nullptr, WS_POPUP | tipStyle, 0, 0, 0, 0,
-                                          owner, nullptr, nullptr, nullptr);
+    {
+        thread.toolTip = ::CreateWindowEx(WS_EX_TOPMOST, TOOLTIPS_CLASS, nullptr, WS_POPUP | tipStyle, 0, 0, 0, 0, top,
+                                          nullptr, nullptr, nullptr);
+        thread.lastHitWnd = nullptr; // it has no tool yet
+    }
     return thread.toolTip;
 }
 
