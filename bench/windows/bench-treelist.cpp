@@ -304,7 +304,8 @@ void benchSort(int rows)
     list.tree.SetRedraw(FALSE);
     for (const std::wstring& text : texts)
         list.tree.InsertItem(text.c_str());
-    RankedTree ranked(host, texts);
+    Host another;
+    RankedTree ranked(another, texts);
     std::vector<double> ours, peer, platform;
     for (int round = 0; round < c_sortRounds; ++round)
     {
