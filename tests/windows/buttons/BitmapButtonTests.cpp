@@ -8,6 +8,7 @@
 #include "ButtonHost.h"
 #include "support/Guarded.h"
 #include "support/ImportPatch.h"
+#include "support/Refusal.h"
 #include "support/HandleBalance.h"
 
 namespace
@@ -631,6 +632,31 @@ TEST_F(BitmapButton, takes_extreme_numbers)
                       pen.caption(L"Add", (100 - size.cx) / 2, (30 - size.cy) / 2 - 1);
                   }),
               "");
+}
+
+TEST_F(BitmapButton, outlives_a_platform_that_has_run_out_of_something)
+{
+    create(L"Add");
+    button.SetBitmap(IDB_SQUARE, 16, 16);
+    button.SetColorTab(RGB(200, 30, 60));
+    button.SetDefaultButton(TRUE);
+    const Pixels before = painted();
+    for (const char* function : {"CreatePen", "LoadImageW", "CreateSolidBrush", "DrawStateW", "CreateCompatibleDC"})
+    {
+        SCOPED_TRACE(function);
+        const int objects = gdiObjectCount();
+        {
+            const Refusal refusal(function);
+            ASSERT_TRUE(refusal.works());
+            painted();
+            painted(ODS_DISABLED);
+            OpenButton icon, bitmap;
+            icon.SetIcon(IDI_BLUE, 16, 16);
+            bitmap.SetBitmap(IDB_SQUARE, 16, 16);
+        }
+        EXPECT_EQ(gdiObjectCount(), objects);
+        EXPECT_EQ(painted().difference(before), "");
+    }
 }
 
 TEST_F(BitmapButton, may_lose_its_parent_when_it_is_clicked)

@@ -6,6 +6,7 @@
 #include "ComboHost.h"
 #include "support/Guarded.h"
 #include "support/HandleBalance.h"
+#include "support/Refusal.h"
 
 namespace
 {
@@ -146,15 +147,17 @@ TEST(DoomedButtonCombo, may_be_deleted_as_the_focus_comes_and_goes)
 
 TEST(DoomedButtonCombo, may_be_destroyed_or_deleted_while_it_is_open)
 {
-    for (const bool deleted : {false, true})
+    const std::function<void(DoomedCombo&)> ends[] = {
+        [](DoomedCombo& doomed) { doomed.combo->DestroyWindow(); },
+        [](DoomedCombo& doomed) { delete std::exchange(doomed.combo, nullptr); },
+        [](DoomedCombo& doomed) { doomed.host.DestroyWindow(); },
+    };
+    for (const auto& end : ends)
     {
         DoomedCombo doomed;
         press(*doomed.combo, onStrip);
         ASSERT_TRUE(::IsWindowVisible(doomed.palette));
-        if (deleted)
-            delete std::exchange(doomed.combo, nullptr);
-        else
-            doomed.combo->DestroyWindow();
+        end(doomed);
         EXPECT_FALSE(::IsWindow(doomed.face));
         EXPECT_FALSE(::IsWindow(doomed.palette));
     }
@@ -342,6 +345,54 @@ TEST(HostileButtonCombo, has_room_for_a_hundred_thousand_cells)
     EXPECT_FALSE(palette->GetUpdateRect(nullptr)) << "it is painted";
     palette->SendMessage(WM_LBUTTONUP, 0, 0);
     EXPECT_EQ(combo.GetSelectedItem(), 0) << "black: the palette of the system has 255";
+}
+
+TEST(HostileButtonCombo, outlives_a_platform_that_has_run_out_of_something)
+{
+    const auto use = [](CKxButtonCombo& combo)
+    {
+        combo.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+        combo.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(onStrip.x, onStrip.y));
+        if (CWndCombo* const palette = paletteOf(combo))
+        {
+            palette->SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(10, 5));
+            palette->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+            palette->SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(10, 5));
+        }
+        combo.EnableWindow(FALSE);
+        combo.UpdateWindow();
+        combo.EnableWindow(TRUE);
+    };
+    const auto live = [&use](CWnd& host)
+    {
+        CKxButtonCombo tiles, colors, fixed;
+        tiles.Create(comboPlace, CSize(2, 2), IDB_TILES, 4, &host, 5, L"a;b;c;d");
+        colors.Create(comboPlace, CSize(3, 2), CSize(10, 8), &host, 6, L"a;b;c;d;e;f");
+        fixed.CreateStatic(comboPlace, IDB_TILES, &host, 7);
+        for (CKxButtonCombo* const one : {&tiles, &colors, &fixed})
+            if (one->m_hWnd != nullptr)
+                use(*one);
+    };
+    for (const char* function : {"CreateCompatibleDC", "CreateCompatibleBitmap", "CreatePen", "CreateSolidBrush",
+                                 "CreateFontW", "CreateMappedBitmap", "CreateWindowExW", "GetSystemPaletteEntries"})
+    {
+        SCOPED_TRACE(function);
+        TileCombo made;
+        ASSERT_TRUE(made.create(CSize(2, 2), L"a;b;c;d"));
+        use(made.combo);
+        live(made.host); // what the platform keeps from then on is none of ours
+        const Pixels before(made.combo);
+        const int objects = gdiObjectCount();
+        {
+            const Refusal refusal(function);
+            ASSERT_TRUE(refusal.works());
+            use(made.combo);
+            live(made.host);
+        }
+        EXPECT_EQ(gdiObjectCount(), objects);
+        made.combo.Invalidate();
+        EXPECT_EQ(Pixels(made.combo).difference(before), "");
+    }
 }
 
 TEST(HostileButtonCombo, leaves_no_handle_after_two_thousand_lives)

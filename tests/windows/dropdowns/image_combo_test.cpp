@@ -397,6 +397,15 @@ TEST_F(ImageCombo, has_a_tip_for_its_inner_combo_box)
     EXPECT_TRUE(waitFor([this] { return ::IsWindowVisible(combo->tip().m_hWnd) != FALSE; }));
 }
 
+TEST_F(ImageCombo, takes_a_second_tip_and_ends)
+{
+    combo->AddFormatToolTip(L"the tip");
+    combo->AddFormatToolTip(L"another");
+    const HWND tip = combo->tip().m_hWnd;
+    combo.reset();
+    EXPECT_FALSE(::IsWindow(tip));
+}
+
 TEST_F(ImageCombo, takes_its_tool_out_when_it_ends)
 {
     combo->AddFormatToolTip(L"the tip");
