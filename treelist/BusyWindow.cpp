@@ -4,6 +4,7 @@
 #include <afxcmn.h>
 
 #include <unordered_map>
+#include <utility>
 
 namespace treelist
 {
@@ -18,6 +19,8 @@ struct Work
     bool givenUp = false;
     bool ending = false;
     bool ended = false;
+    bool callsAtRest = false;
+    BusyWindow::Owner owner = {};
     WNDPROC before = nullptr;   ///< the procedure that was there, which leads to the window's object
     WNDPROC platform = nullptr; ///< the control's own
 };
@@ -72,6 +75,41 @@ LRESULT callNext(WNDPROC next, HWND window, UINT message, WPARAM wParam, LPARAM 
                        : ::CallWindowProc(next, window, message, wParam, lParam);
 }
 
+/// Refuses to destroy a window that is at work; it is given up instead.
+LRESULT CALLBACK keepBusyWindows(int code, WPARAM wParam, LPARAM lParam)
+{
+    const auto window = reinterpret_cast<HWND>(wParam);
+    const Work* const work = code == HCBT_DESTROYWND ? watched().workOf(window) : nullptr;
+    if (work == nullptr || work->depth == 0 || work->ending || work->owner.leave == nullptr)
+        return ::CallNextHookEx(nullptr, code, wParam, lParam);
+    if (!work->givenUp)
+        work->owner.leave(window);
+    return 1;
+}
+
+/// The hook of this thread, while it has watched windows.
+class Hook
+{
+public:
+    ~Hook() { Set(false); }
+    void Set(bool wanted)
+    {
+        if (wanted && m_hook == nullptr)
+            m_hook = ::SetWindowsHookEx(WH_CBT, &keepBusyWindows, nullptr, ::GetCurrentThreadId());
+        else if (!wanted && m_hook != nullptr)
+            ::UnhookWindowsHookEx(std::exchange(m_hook, nullptr));
+    }
+
+private:
+    HHOOK m_hook = nullptr;
+};
+
+Hook& hook()
+{
+    thread_local Hook one;
+    return one;
+}
+
 LRESULT CALLBACK countMessages(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     Watched& all = watched();
@@ -88,22 +126,29 @@ LRESULT CALLBACK countMessages(HWND window, UINT message, WPARAM wParam, LPARAM 
     if (work->depth > 0)
         return result;
     if (work->ended)
+    {
         all.works.erase(window);
+        hook().Set(!all.works.empty());
+    }
     else if (work->givenUp && !work->ending)
     {
         work->ending = true;
         ::DestroyWindow(window);
     }
+    else if (std::exchange(work->callsAtRest, false))
+        work->owner.rest(window);
     return result;
 }
 
 } // namespace
 
-void BusyWindow::Watch(HWND window)
+void BusyWindow::Watch(HWND window, const Owner& owner)
 {
     if (window == nullptr || watched().workOf(window) != nullptr)
         return;
     Work& work = watched().works[window];
+    work.owner = owner;
+    hook().Set(true);
     work.platform = reinterpret_cast<WNDPROC>(::GetClassLongPtr(window, GCLP_WNDPROC));
     work.before =
         reinterpret_cast<WNDPROC>(::SetWindowLongPtr(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&countMessages)));
@@ -118,6 +163,15 @@ bool BusyWindow::IsBusy(HWND window)
 {
     const Work* const work = watched().workOf(window);
     return work != nullptr && work->depth > 0;
+}
+
+bool BusyWindow::CallAtRest(HWND window)
+{
+    Work* const work = watched().workOf(window);
+    if (work == nullptr || work->depth == 0 || work->givenUp || work->owner.rest == nullptr)
+        return false;
+    work->callsAtRest = true;
+    return true;
 }
 
 void BusyWindow::GiveUp(HWND window)

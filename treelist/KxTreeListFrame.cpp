@@ -7,6 +7,7 @@
 #include "NativeTree.h"
 #include "ScrollRules.h"
 #include "SortWalk.h"
+#include "TreeWork.h"
 #include "../frame/Surviving.h"
 
 namespace
@@ -32,6 +33,14 @@ HINSTANCE thisModule()
     ::GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
                          windowClass, &module);
     return module;
+}
+
+/// For a header that is telling a host of something.
+void leaveHeader(HWND window)
+{
+    if (CWnd* const header = CWnd::FromHandlePermanent(window))
+        header->Detach();
+    treelist::BusyWindow::GiveUp(window);
 }
 
 int heightOfTextA(CWnd& window, CFont& font)
@@ -118,7 +127,7 @@ BOOL CKxTreeListFrame::SubclassDlgItem(UINT id, CWnd* parent)
 
 void CKxTreeListFrame::Initialize()
 {
-    if (m_hWnd == nullptr || m_tree.m_hWnd != nullptr)
+    if (m_hWnd == nullptr || m_tree.m_hWnd != nullptr || m_tree.m_header.m_hWnd != nullptr)
         return;
     m_recalculationHeld = false;
     CRect window;
@@ -136,8 +145,8 @@ void CKxTreeListFrame::Initialize()
     header.SetSortImageList(&m_tree.m_sortImages);
     m_tree.Create(m_canModifyLabels ? treeStyle | editableTreeStyle : treeStyle, first.tree, this, ID_TREE);
     m_scrollBar.Create(scrollBarStyle, first.bar, this, ID_SCROLL_BAR);
-    treelist::BusyWindow::Watch(header.m_hWnd);
-    treelist::BusyWindow::Watch(m_tree.m_hWnd);
+    treelist::BusyWindow::Watch(header.m_hWnd, {leaveHeader, nullptr});
+    m_tree.WatchWork();
     treelist::BusyWindow::Watch(m_scrollBar.m_hWnd);
     SortTree(0, 1, m_tree.GetRootItem());
 }
@@ -161,7 +170,7 @@ void CKxTreeListFrame::OnDestroy()
     if (!here)
         return;
     if (treelist::BusyWindow::IsBusy(m_tree.m_header.m_hWnd))
-        treelist::BusyWindow::GiveUp(m_tree.m_header.Detach());
+        leaveHeader(m_tree.m_header.m_hWnd);
     if (here)
         CWnd::OnDestroy();
 }
@@ -247,6 +256,9 @@ BOOL CKxTreeListFrame::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
     const auto* const notification = reinterpret_cast<const NMHDR*>(lParam);
     if (notification != nullptr)
     {
+        const bool fromTree = m_tree.m_hWnd != nullptr && notification->hwndFrom == m_tree.m_hWnd;
+        const treelist::TreeWork::Scope told(m_tree.m_work, fromTree ? m_tree.m_work->HoldOf(*notification)
+                                                                     : treelist::TreeWork::Hold());
         const bool fromHeader = notification->idFrom == ID_HEADER;
         if (fromHeader && notification->code == static_cast<UINT>(HDN_ITEMCLICK))
             OnHeaderClick(reinterpret_cast<const NMHEADER*>(lParam)->iItem);

@@ -238,7 +238,7 @@ void CKxTreeListFrame::OnHeaderChanged()
     const int oldTotal = m_tree.GetColumnsWidth();
     m_tree.RecalcColumnsWidth();
     ResetScrollBar();
-    if (!here)
+    if (!here || m_tree.m_hWnd == nullptr)
         return;
     const auto offset = treelist::OffsetAfterChange(oldTotal, Measure(), m_scrollBar.GetScrollPos(), ScrollLimit());
     if (offset)

@@ -3,6 +3,7 @@
 
 #include "BusyWindow.h"
 #include "NativeTree.h"
+#include "TreeWork.h"
 #include "WidthRules.h"
 
 IMPLEMENT_DYNAMIC(CKxTreeListViewCtrl, CTreeCtrl)
@@ -36,11 +37,15 @@ BEGIN_MESSAGE_MAP(CKxTreeListViewCtrl, CTreeCtrl)
     ON_MESSAGE(TVM_EXPAND, &CKxTreeListViewCtrl::OnExpandNode)
     ON_MESSAGE(TVM_SORTCHILDREN, &CKxTreeListViewCtrl::OnSortNodesByLabel)
     ON_MESSAGE(TVM_SORTCHILDRENCB, &CKxTreeListViewCtrl::OnSortNodesByHost)
+    ON_MESSAGE(TVM_SELECTITEM, &CKxTreeListViewCtrl::OnShowNode)
+    ON_MESSAGE(TVM_ENSUREVISIBLE, &CKxTreeListViewCtrl::OnShowNode)
+    ON_MESSAGE(TVM_EDITLABELA, &CKxTreeListViewCtrl::OnShowNode)
+    ON_MESSAGE(TVM_EDITLABELW, &CKxTreeListViewCtrl::OnShowNode)
 END_MESSAGE_MAP()
 
 CKxTreeListViewCtrl::CKxTreeListViewCtrl()
     : m_rows(std::make_unique<treelist::RowStore>()), m_recent(std::make_unique<treelist::RecentNode>()),
-      m_known(std::make_unique<treelist::KnownNodes<HTREEITEM>>())
+      m_known(std::make_unique<treelist::KnownNodes<HTREEITEM>>()), m_work(std::make_shared<treelist::TreeWork>())
 {
 }
 
@@ -63,10 +68,15 @@ void CKxTreeListViewCtrl::OnDestroy()
     if (!here)
         return;
     m_recent->Forget();
+    m_work->leaving.clear();
+    treelist::TreeWork::Hold hold;
+    hold.nodes[0] = TVI_ROOT;
+    hold.all = hold.removes = true;
+    const treelist::TreeWork::Scope working(m_work, hold);
     CTreeCtrl::OnDestroy();
 }
 
-/// For the frame's end: a tree that is telling a host of something goes on with its window behind that.
+/// For the end of the frame or of the window: a tree that is telling a host of something goes on with its window behind that.
 void CKxTreeListViewCtrl::LeaveBusyWindow()
 {
     if (!treelist::BusyWindow::IsBusy(m_hWnd))
@@ -77,6 +87,7 @@ void CKxTreeListViewCtrl::LeaveBusyWindow()
     if (!here)
         return;
     m_recent->Forget();
+    m_work->leaving.clear();
     treelist::BusyWindow::GiveUp(Detach());
 }
 

@@ -1,6 +1,7 @@
 // The tree of the tree list: editing in place, from the click or key that opens the editor to the commit.
 #include "EditRules.h"
 #include "NativeTree.h"
+#include "TreeWork.h"
 
 #include <memory>
 #include <utility>
@@ -309,7 +310,12 @@ void CKxTreeListViewCtrl::OnLButtonDblClk(UINT flags, CPoint point)
     const Surviving here(*this);
     if (m_columnCount == 0 || point.x < GetColumnWidth(0))
     {
-        CTreeCtrl::OnLButtonDblClk(flags, point);
+        {
+            treelist::TreeWork::Hold hold;
+            hold.nodes[0] = HitTest(point);
+            const treelist::TreeWork::Scope working(m_work, hold);
+            CTreeCtrl::OnLButtonDblClk(flags, point);
+        }
         if (here)
             ResetVertScrollBar();
     }
@@ -322,7 +328,12 @@ void CKxTreeListViewCtrl::OnLButtonDblClk(UINT flags, CPoint point)
 void CKxTreeListViewCtrl::OnKeyDown(UINT key, UINT repeat, UINT flags)
 {
     const Surviving here(*this);
-    CTreeCtrl::OnKeyDown(key, repeat, flags);
+    {
+        treelist::TreeWork::Hold hold;
+        hold.nodes[0] = GetSelectedItem();
+        const treelist::TreeWork::Scope working(m_work, hold);
+        CTreeCtrl::OnKeyDown(key, repeat, flags);
+    }
     if (here)
     {
         ResetVertScrollBar();

@@ -1,5 +1,6 @@
 // The tree of the tree list: what happens to the nodes, by whomever, and what is known of them from it.
 #include "NativeTree.h"
+#include "TreeWork.h"
 
 using treelist::NativeTree;
 using treelist::RowStore;
@@ -9,6 +10,11 @@ LRESULT CKxTreeListViewCtrl::OnInsertNode(WPARAM, LPARAM lParam)
     const auto* const wanted = reinterpret_cast<const TVINSERTSTRUCT*>(lParam);
     if (wanted == nullptr)
         return Default();
+    if (m_work->Removes() && !m_work->Stays(*this, wanted->hParent)) // nothing new below what goes
+    {
+        m_known->RecordWithoutNode();
+        return 0;
+    }
     const HTREEITEM parent = NativeTree::AsParent(wanted->hParent);
     const bool behindAll = wanted->hInsertAfter == TVI_LAST;
     const bool hasParam = (wanted->item.mask & TVIF_PARAM) != 0;
@@ -43,19 +49,12 @@ LRESULT CKxTreeListViewCtrl::ForgetNode()
     return result;
 }
 
-/// A row that goes takes its edit along: what is committed later finds its row gone.
-LRESULT CKxTreeListViewCtrl::OnDeleteNode(WPARAM, LPARAM lParam)
+LRESULT CKxTreeListViewCtrl::RemoveNow()
 {
-    const auto deleted = reinterpret_cast<HTREEITEM>(lParam);
-    const NativeTree tree(*this);
-    HTREEITEM node = m_editedItem;
-    while (node != nullptr && node != deleted)
-        node = tree.Parent(node);
-    if (node != nullptr || deleted == TVI_ROOT || deleted == nullptr)
-        m_editedItem = nullptr;
+    const Surviving here(*this);
     m_known->Removed(); // twice too
     const LRESULT result = ForgetNode();
-    if (tree.Lives())
+    if (here)
         m_known->Removed();
     return result;
 }
@@ -69,20 +68,10 @@ LRESULT CKxTreeListViewCtrl::OnSetNode(WPARAM, LPARAM lParam)
     return ForgetNode();
 }
 
-LRESULT CKxTreeListViewCtrl::OnExpandNode(WPARAM wParam, LPARAM)
-{
-    const Surviving here(*this);
-    const bool removes = (wParam & TVE_COLLAPSERESET) != 0;
-    if (removes)
-        m_known->Removed();
-    const LRESULT result = ForgetNode();
-    if (here && removes)
-        m_known->Removed();
-    return result;
-}
-
 LRESULT CKxTreeListViewCtrl::SortNodes(HTREEITEM parent, bool below)
 {
+    if (m_work->Removes())
+        return FALSE;
     const Surviving here(*this);
     const LRESULT result = Default();
     if (!here)

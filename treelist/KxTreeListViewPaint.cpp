@@ -2,6 +2,7 @@
 #include "CellText.h"
 #include "NativeTree.h"
 #include "RowLayout.h"
+#include "TreeWork.h"
 #include "../frame/SavedContext.h"
 
 using treelist::CellPlace;
@@ -137,6 +138,9 @@ void CKxTreeListViewCtrl::OnPaint()
     dc.SetViewportOrg(m_horizontalOffset, 0);
     dc.SetTextColor(window);
     const Surviving here(*this);
+    treelist::TreeWork::Hold hold;
+    hold.all = true;
+    const treelist::TreeWork::Scope working(m_work, hold);
     DefWindowProc(WM_PAINT, reinterpret_cast<WPARAM>(dc.GetSafeHdc()), 0);
     if (!here)
         return;

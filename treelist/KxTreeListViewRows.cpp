@@ -1,5 +1,6 @@
 // The tree of the tree list: operations on rows. What they do is in TreeRows.h; here the platform's tree does it.
 #include "NativeTree.h"
+#include "TreeWork.h"
 #include "ValueText.h"
 
 namespace
@@ -212,6 +213,8 @@ void CKxTreeListViewCtrl::MemDeleteAllItems(HTREEITEM first)
 
 BOOL CKxTreeListViewCtrl::SortItems(int col, BOOL ascending, HTREEITEM parent)
 {
+    if (m_work->Removes())
+        return FALSE;
     return RowsOf(*this, *m_rows).SortChildren(parent, col, ascending != FALSE);
 }
 

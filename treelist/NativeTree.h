@@ -90,6 +90,8 @@ public:
     }
     BOOL Remove(Node node) { return IsNode(node) && m_tree->CTreeCtrl::DeleteItem(node); }
 
+    bool MayMove(Node node, Node parent) const { return m_tree->MayMove(node, parent); }
+
     bool ReadyForRow()
     {
         CKxTreeListFrame* const frame = Frame();

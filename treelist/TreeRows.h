@@ -67,6 +67,10 @@ concept NodeTree = SiblingTree<Tree> && requires(Tree& tree, const Tree& reading
         reading.Lives()
         } -> std::same_as<bool>; // false once a host ended the tree; nothing else may be asked then, nor the store
     {
+        reading.MayMove(node, node)
+        } -> std::same_as<
+            bool>; // false while the tree is in the middle of something with the node, or with the new parent
+    {
         tree.ReadyForRow()
         } -> std::same_as<bool>; // recalculates the scroll bars; false when the tree did not survive that
     {
@@ -143,7 +147,7 @@ public:
     {
         NodeBlock block;
         if (m_tree.HasChildren(node) || IsAtOrBelow(parent, node) || IsAtOrBelow(after, node) ||
-            !ReadWithCopy(node, block))
+            !m_tree.MayMove(node, parent) || !ReadWithCopy(node, block))
             return {};
         Delete(node, count);
         return m_tree.Lives() ? m_tree.Insert(block, parent, after) : Node{};
@@ -154,7 +158,7 @@ public:
     {
         if (!m_tree.HasChildren(node))
             return Move(node, count, parent, after);
-        if (IsAtOrBelow(parent, node) || IsAtOrBelow(after, node))
+        if (IsAtOrBelow(parent, node) || IsAtOrBelow(after, node) || !m_tree.MayMove(node, parent))
             return {};
         const Node moved = InsertCopy(node, parent, after);
         if (moved)

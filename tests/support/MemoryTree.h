@@ -172,6 +172,7 @@ public:
         return removed ? TRUE : FALSE;
     }
     bool Lives() const { return m_lives; }
+    bool MayMove(Node, Node) const { return true; }
     bool ReadyForRow() const { return !onReadyForRow || onReadyForRow(); }
     template <typename Compare> BOOL Sort(Node parent, const Compare& compare)
     {

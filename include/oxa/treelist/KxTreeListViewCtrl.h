@@ -21,6 +21,7 @@ template <typename Node> class KnownNodes;
 class NativeTree;
 class RecentNode;
 class RowStore;
+class TreeWork;
 struct Columns;
 struct CellPlace;
 } // namespace treelist
@@ -54,6 +55,15 @@ inline constexpr UINT WM_KX_TREELIST_EDIT_AFTER = 0x436;
 /// Messages to the parent: 0x433 and 0x434 around each click. To the parent's parent: 0x435 and 0x436 around each cell that
 /// an edit writes; `WM_LBUTTONDBLCLK` (wParam 0, lParam the point, in client coordinates of the tree) for a double click
 /// past the first column. A handler may change rows, end the edit, or destroy the control.
+///
+/// A handler of the notifications that the platform's tree itself sends (`WM_NOTIFY`) may do so too, in a tree list's frame. What
+/// the platform's tree is in the middle of and goes on with behind the notification is spared until it is at rest:
+/// - Deleting such a row, or one above it, is put off: it answers as ever, the row goes at the end. While a row is painted or
+///   deleted, or its image asked for, that holds for all rows. Deleting all rows then spares those that are inserted later.
+/// - Moving such a row answers null, collapsing the row above it with `TVE_COLLAPSERESET` answers 0; nothing is changed.
+/// - While rows are deleted, nothing is inserted below those, neither they nor rows that are out of sight are selected, and
+///   nothing is expanded, collapsed or sorted: null or 0.
+/// - A destroyed window is taken away at once, and ends at the end.
 class OXA_API CKxTreeListViewCtrl : public CTreeCtrl
 {
     DECLARE_DYNAMIC(CKxTreeListViewCtrl)
@@ -205,6 +215,7 @@ protected:
     afx_msg LRESULT OnExpandNode(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSortNodesByLabel(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSortNodesByHost(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnShowNode(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     friend class CKxTreeListFrame; // fills the header, its font and images, and scrolls
@@ -243,10 +254,19 @@ private:
     void LeaveBusyWindow();
     LRESULT ForgetNode();
     LRESULT SortNodes(HTREEITEM parent, bool below);
+    void WatchWork();
+    LRESULT Remove(HTREEITEM node);
+    LRESULT RemoveNow();
+    LRESULT PutOff(HTREEITEM node);
+    LRESULT RemoveAllThatMayGo();
+    void RemoveLeaving();
+    void EndEditOf(HTREEITEM node);
+    bool MayMove(HTREEITEM node, HTREEITEM parent) const;
 
     friend class treelist::NativeTree;
 
     std::unique_ptr<treelist::RowStore> m_rows;
     std::unique_ptr<treelist::RecentNode> m_recent;
     std::unique_ptr<treelist::KnownNodes<HTREEITEM>> m_known;
+    std::shared_ptr<treelist::TreeWork> m_work;
 };

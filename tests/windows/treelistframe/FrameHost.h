@@ -17,6 +17,12 @@ class OpenTree : public CKxTreeListViewCtrl
 public:
     static int& offset(CKxTreeListViewCtrl& tree) { return tree.*(&OpenTree::m_horizontalOffset); }
     static CEdit*& edit(CKxTreeListViewCtrl& tree) { return tree.*(&OpenTree::m_pEdit); }
+    /// As if the editor had been opened for that row, in column 0.
+    static void beginEdit(CKxTreeListViewCtrl& tree, HTREEITEM row)
+    {
+        tree.*(&OpenTree::m_editedItem) = row;
+        tree.*(&OpenTree::m_editColumn) = 0;
+    }
     static eEditState state(CKxTreeListViewCtrl& tree) { return tree.*(&OpenTree::m_editState); }
 };
 
