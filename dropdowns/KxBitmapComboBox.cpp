@@ -87,12 +87,11 @@ void CKxBitmapComboBox::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
     if (what.focusTakenOff)
         dc->DrawFocusRect(&item.rcItem);
     {
-        CBrush highlight(::GetSysColor(COLOR_HIGHLIGHT));
         const SavedContext saved(*dc);
         if (what.highlighted)
         {
             dc->SetBkColor(::GetSysColor(COLOR_HIGHLIGHT));
-            dc->SelectObject(&highlight);
+            ::SelectObject(dc->m_hDC, ::GetSysColorBrush(COLOR_HIGHLIGHT)); // the platform's own, which is always there
         }
         const CRect place(item.rcItem);
         dc->PatBlt(place.left, place.top, place.Width(), place.Height(), PATCOPY); // with whichever brush is there

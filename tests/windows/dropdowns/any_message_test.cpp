@@ -1,11 +1,15 @@
-// Each control of the family ended in the middle of any message that its life brings its parent.
+// Each control of the family ended in the middle of any message that its life brings its parent, and on a platform that
+// has run out of something.
 #include <gtest/gtest.h>
 #include <afxcmn.h>
+#include <type_traits>
 #include "oxa/dropdowns/KxBitmapComboBox.h"
 #include "oxa/dropdowns/KxComboBox.h"
 #include "oxa/dropdowns/KxComboBoxEx.h"
 #include "oxa/dropdowns/KxComboColorPicker.h"
 #include "resource.h"
+#include "support/HandleBalance.h"
+#include "support/Refusal.h"
 #include "support/TrapHost.h"
 
 namespace
@@ -192,5 +196,71 @@ TEST(AnyMessage, may_be_the_last_of_a_combo_box_with_images)
         else // the keys go to a field of its own
             life.expectToEndInAnyMessage({{WM_COMMAND, CBN_DROPDOWN}, {WM_COMMAND, CBN_CLOSEUP}});
     }
+}
+// ---- Nothing left
+
+/// A life in which the platform gives nothing of a kind, and another one behind it.
+template <class Control> void expectToOutlive(const char* function, DWORD style)
+{
+    SCOPED_TRACE(function);
+    const auto live = [style]
+    {
+        TrapHost host;
+        Control control;
+        if constexpr (std::is_base_of_v<CKxEdit, Control>)
+            control.Create(style, place, &host, 7);
+        else if (control.Create(style, place, &host, 7))
+            control.AddString(L"row");
+        if constexpr (std::is_same_v<CKxComboBoxEx, Control> || std::is_same_v<CKxBitmapComboBox, Control>)
+            control.AddFormatToolTip(L"tip");
+        if constexpr (std::is_same_v<CKxBitmapComboBox, Control>)
+            control.AddBitmap(IDB_BLOCK);
+        if (control.m_hWnd == nullptr)
+            return false;
+        takeFocus(control);
+        pressKey<VK_F4>(control);
+        paint(control);
+        pressKey<VK_DOWN>(control);
+        pressKey<VK_RETURN>(control);
+        disable(control);
+        return true;
+    };
+    ASSERT_TRUE(live());
+    const int objects = gdiObjectCount();
+    const int windows = windowCount();
+    {
+        const Refusal refusal(function);
+        ASSERT_TRUE(refusal.works());
+        live();
+    }
+    EXPECT_TRUE(live());
+    EXPECT_EQ(gdiObjectCount(), objects);
+    EXPECT_EQ(windowCount(), windows);
+}
+
+TEST(NothingLeft, is_no_harm_to_the_controls_of_the_family)
+{
+    for (const char* function : {"CreateCompatibleDC", "CreateCompatibleBitmap", "CreateSolidBrush", "LoadImageW"})
+    {
+        expectToOutlive<CKxEdit>(function, WS_CHILD | WS_VISIBLE | WS_BORDER);
+        expectToOutlive<CKxComboBox>(function, box | CBS_DROPDOWN);
+        expectToOutlive<CKxComboBoxEx>(function, box | CBS_DROPDOWNLIST);
+        expectToOutlive<CKxBitmapComboBox>(function, box | CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE);
+        expectToOutlive<CKxComboColorPicker>(function, box | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED);
+    }
+}
+
+TEST(NothingLeft, makes_no_tip_and_no_window)
+{
+    const Refusal refusal("CreateWindowExW");
+    ASSERT_TRUE(refusal.works());
+    CKxComboBoxEx images;
+    CKxBitmapComboBox bitmaps;
+    images.AddFormatToolTip(L"tip");
+    bitmaps.AddFormatToolTip(L"tip");
+    MSG message = {};
+    EXPECT_FALSE(bitmaps.PreTranslateMessage(&message));
+    EXPECT_FALSE(images.Create(box | CBS_DROPDOWNLIST, place, CWnd::GetDesktopWindow(), 7));
+    EXPECT_EQ(images.m_hWnd, nullptr);
 }
 } // namespace
