@@ -94,26 +94,36 @@ struct SortItem
     };
 
     std::uint64_t word = 0;   ///< of a length its inches; else the start of the text, folded, a lane a character
+    std::uint64_t next = 0;   ///< what follows on the start, in the same way
     std::uint32_t place = 0;  ///< of the key
     std::uint32_t prefix = 0; ///< the same number for the same prefix
     int number = 0;
     bool isLength = false;
     bool hasDigits = false;
-    bool hasStart = false; ///< the word holds a start, of which no character was too large for its lane, or 0
+    bool hasStart = false; ///< the words hold a start, of which no character was too large for its lane, or 0
 };
 
-void TakeStart(SortItem& item, std::wstring_view text)
+/// The characters from `begin` on; those behind the end are 0.
+std::uint64_t TakeLanes(SortItem& item, std::wstring_view text, std::size_t begin)
 {
-    item.hasStart = true;
-    for (std::size_t i = 0; i < SortItem::startLength; ++i)
+    std::uint64_t word = 0;
+    for (std::size_t i = begin; i < begin + SortItem::startLength; ++i)
     {
-        item.word <<= SortItem::laneBits;
+        word <<= SortItem::laneBits;
         if (i >= text.size())
             continue;
         const std::int64_t folded = Folded(text[i]);
         item.hasStart = item.hasStart && folded > 0 && folded <= SortItem::largestLane;
-        item.word |= static_cast<std::uint64_t>(folded) & SortItem::largestLane;
+        word |= static_cast<std::uint64_t>(folded) & SortItem::largestLane;
     }
+    return word;
+}
+
+void TakeStart(SortItem& item, std::wstring_view text)
+{
+    item.hasStart = true;
+    item.word = TakeLanes(item, text, 0);
+    item.next = TakeLanes(item, text, SortItem::startLength);
 }
 
 std::vector<SortItem> ItemsOf(const std::vector<SortKey>& keys)
@@ -153,8 +163,15 @@ int CompareItems(const SortItem& a, const SortItem& b, const std::vector<SortKey
         return CompareLengths(std::bit_cast<double>(a.word), std::bit_cast<double>(b.word));
     if (a.prefix == b.prefix && a.number != b.number && (a.hasDigits || b.hasDigits))
         return a.number > b.number ? 1 : -1;
-    if (a.hasStart && b.hasStart && a.word != b.word)
-        return CompareStarts(a.word, b.word);
+    if (a.hasStart && b.hasStart)
+    {
+        if (a.word != b.word)
+            return CompareStarts(a.word, b.word);
+        if (a.next != b.next)
+            return CompareStarts(a.next, b.next);
+        if ((a.next & SortItem::largestLane) == 0)
+            return 0; // both end here
+    }
     return RowComparison::CompareBlindToCase(keys[a.place].text, keys[b.place].text);
 }
 

@@ -193,6 +193,21 @@ TEST(RowOrder, of_a_short_list_is_that_of_insertion_though_the_comparison_is_no_
     }
 }
 
+TEST(RowOrder, goes_by_what_stands_about_the_sixteenth_character)
+{
+    const std::vector<std::wstring> ends = {L"",        L"o",        L"op",  L"oP",  L"opq", L"OPR",  L"opqr",
+                                            L"o\u00E9", L"op\u0416", L"op1", L"op2", L"oq",  L"opqrs"};
+    std::mt19937 random(20240616); // a fixed seed
+    for (int round = 0; round < 60; ++round)
+    {
+        std::vector<std::wstring> texts;
+        for (int count = 0; count < 40; ++count)
+            texts.push_back(L"abcdefghijklmn" + ends[random() % ends.size()]);
+        for (const bool ascending : {true, false})
+            ASSERT_EQ(Sorted(texts, ascending), plainrows::Inserted(texts, ascending)) << round;
+    }
+}
+
 TEST(RowOrder, goes_by_what_stands_behind_the_eighth_character_and_beyond_latin_1)
 {
     const std::vector<std::wstring> starts = {
