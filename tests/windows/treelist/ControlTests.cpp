@@ -60,6 +60,16 @@ TEST_F(TreeListControl, columns_are_header_items_that_the_owner_draws)
     }
 }
 
+TEST_F(TreeListControl, a_column_of_width_minus_one_gets_the_headers_own_width)
+{
+    ASSERT_EQ(tree.InsertColumn(0, L"Name", 0, -1, 0), 0);
+    const int own = tree.GetColumnWidth(0);
+    EXPECT_GE(own, 0) << "none was set";
+    EXPECT_EQ(tree.GetColumnsWidth(), own);
+    EXPECT_EQ(tree.InsertColumn(1, nullptr, 0, 40, 0), 1) << "no text is an empty one";
+    EXPECT_EQ(tree.GetColumnsWidth(), own + 40);
+}
+
 TEST_F(TreeListControl, a_column_out_of_range_has_no_width_and_no_alignment)
 {
     tree.InsertColumn(0, L"Name", 1, 120, 0);

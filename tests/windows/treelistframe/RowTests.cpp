@@ -97,3 +97,23 @@ TEST(ExpandTree, expands_the_top_level_alone)
         EXPECT_FALSE(isExpanded(frame, children[i]));
     }
 }
+
+TEST(MovingRows, recalculates_the_bars_for_a_row_with_children_where_that_is_asked_for)
+{
+    FrameHost host;
+    OpenFrame& frame = host.usual();
+    frame.addColumns(3, 200); // the bar is shown, and as wide as the frame
+    HTREEITEM top = frame.m_tree.InsertItem(L"top", TVI_ROOT, TVI_LAST);
+    HTREEITEM leaf = frame.m_tree.InsertItem(L"leaf", TVI_ROOT, TVI_LAST);
+    frame.m_tree.InsertItem(L"child", top, TVI_LAST);
+    const auto shrinkBar = [&]
+    { frame.bar().SetWindowPos(nullptr, 0, 0, 50, frame.barHeight(), SWP_NOMOVE | SWP_NOZORDER); };
+    shrinkBar();
+    leaf = frame.m_tree.MoveItemAndChildren(leaf, TVI_ROOT, TVI_FIRST, true);
+    EXPECT_NE(nullptr, leaf);
+    EXPECT_EQ(50, frame.placeOf(frame.bar()).Width()) << "a row without children: never";
+    top = frame.m_tree.MoveItemAndChildren(top, TVI_ROOT, TVI_FIRST, false);
+    EXPECT_EQ(50, frame.placeOf(frame.bar()).Width());
+    EXPECT_NE(nullptr, frame.m_tree.MoveItemAndChildren(top, TVI_ROOT, TVI_LAST, true));
+    EXPECT_EQ(300, frame.placeOf(frame.bar()).Width());
+}
