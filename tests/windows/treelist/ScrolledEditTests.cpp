@@ -165,10 +165,8 @@ TEST_F(TreeListOddTexts, columns_far_out_of_range_are_harmless_everywhere)
 
 TEST_F(TreeListOddTexts, reflected_notifications_keep_the_result_of_a_click_and_clear_that_of_the_focus)
 {
-    NMHDR click = {tree.m_hWnd, CKxTreeListFrame::ID_TREE, static_cast<UINT>(NM_CLICK)};
-    EXPECT_EQ(host.frame->SendMessage(WM_NOTIFY, click.idFrom, reinterpret_cast<LPARAM>(&click)), 0);
-    NMHDR focus = {tree.m_hWnd, CKxTreeListFrame::ID_TREE, static_cast<UINT>(NM_KILLFOCUS)};
-    EXPECT_EQ(host.frame->SendMessage(WM_NOTIFY, focus.idFrom, reinterpret_cast<LPARAM>(&focus)), 0);
+    EXPECT_EQ(OpenTree::resultOf(tree, NM_CLICK), 7);
+    EXPECT_EQ(OpenTree::resultOf(tree, NM_KILLFOCUS), 0);
 }
 
 TEST_F(TreeListOddTexts, a_row_that_was_just_filled_is_none_once_it_is_gone)

@@ -22,6 +22,14 @@ public:
     static int& offset(CKxTreeListViewCtrl& tree) { return tree.*(&OpenTree::m_horizontalOffset); }
     static CKxHeaderCtrl& header(CKxTreeListViewCtrl& tree) { return tree.*(&OpenTree::m_header); }
     static bool headerCustomDraw(CKxTreeListViewCtrl& tree) { return tree.*(&OpenTree::m_headerCustomDraw); }
+    /// What a result of 7 becomes when the tree's parent hands such a notification back to it.
+    static LRESULT resultOf(CKxTreeListViewCtrl& tree, int code)
+    {
+        NMHDR notification = {tree.m_hWnd, static_cast<UINT_PTR>(tree.GetDlgCtrlID()), static_cast<UINT>(code)};
+        LRESULT result = 7;
+        (tree.*(&OpenTree::OnChildNotify))(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&notification), &result);
+        return result;
+    }
 };
 
 struct Heard
