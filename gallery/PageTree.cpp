@@ -253,7 +253,7 @@ void CPageTree::showState()
     CKxTreeListViewCtrl& tree = m_list.m_tree;
     HTREEITEM const row = tree.GetSelectedItem();
     CString text;
-    text.Format(L"%u rows   |   %d cells written   |   %s", tree.GetCount(), m_written,
+    text.Format(L"rows: %u   |   cells written: %d   |   %s", tree.GetCount(), m_written,
                 row == nullptr ? L"no row selected" : static_cast<LPCTSTR>(L"selected: " + tree.GetItemText(row, 0)));
     SetDlgItemText(IDC_TREE_STATE, text);
 }
