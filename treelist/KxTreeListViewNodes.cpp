@@ -10,7 +10,7 @@ LRESULT CKxTreeListViewCtrl::OnInsertNode(WPARAM, LPARAM lParam)
     const auto* const wanted = reinterpret_cast<const TVINSERTSTRUCT*>(lParam);
     if (wanted == nullptr)
         return Default();
-    if (m_work->Removes() && !m_work->Stays(*this, wanted->hParent)) // nothing new below what goes
+    if (m_work->Removes() && !m_work->Stays(NativeTree(*this), wanted->hParent)) // nothing new below what goes
     {
         m_known->RecordWithoutNode();
         return 0;

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 using treelist::IsAtOrBelow;
+using treelist::NativeTree;
 using treelist::TreeWork;
 
 namespace
@@ -69,13 +70,13 @@ LRESULT CKxTreeListViewCtrl::OnDeleteNode(WPARAM, LPARAM lParam)
         return RemoveAllThatMayGo();
     if (!isNode(*this, node))
         return FALSE;
-    return m_work->MayRemove(*this, node) ? Remove(node) : PutOff(node);
+    return m_work->MayRemove(NativeTree(*this), node) ? Remove(node) : PutOff(node);
 }
 
 LRESULT CKxTreeListViewCtrl::Remove(HTREEITEM node)
 {
     EndEditOf(node);
-    std::erase_if(m_work->leaving, [&](HTREEITEM other) { return IsAtOrBelow(*this, other, node); });
+    std::erase_if(m_work->leaving, [&](HTREEITEM other) { return IsAtOrBelow(NativeTree(*this), other, node); });
     TreeWork::Hold hold;
     hold.nodes[0] = node;
     hold.all = hold.removes = true;
@@ -86,7 +87,7 @@ LRESULT CKxTreeListViewCtrl::Remove(HTREEITEM node)
 /// A row that goes takes its edit along: what is committed later finds its row gone.
 void CKxTreeListViewCtrl::EndEditOf(HTREEITEM node)
 {
-    if (IsAtOrBelow(*this, m_editedItem, node))
+    if (IsAtOrBelow(NativeTree(*this), m_editedItem, node))
         m_editedItem = nullptr;
 }
 
@@ -94,9 +95,9 @@ void CKxTreeListViewCtrl::EndEditOf(HTREEITEM node)
 LRESULT CKxTreeListViewCtrl::PutOff(HTREEITEM node)
 {
     const std::vector<HTREEITEM>& leaving = m_work->leaving;
-    const bool leaves =
-        std::any_of(leaving.begin(), leaving.end(), [&](HTREEITEM other) { return IsAtOrBelow(*this, node, other); });
-    if (leaves || !m_work->Stays(*this, node) || !treelist::BusyWindow::CallAtRest(m_hWnd))
+    const bool leaves = std::any_of(leaving.begin(), leaving.end(),
+                                    [&](HTREEITEM other) { return IsAtOrBelow(NativeTree(*this), node, other); });
+    if (leaves || !m_work->Stays(NativeTree(*this), node) || !treelist::BusyWindow::CallAtRest(m_hWnd))
         return FALSE;
     EndEditOf(node);
     m_work->leaving.push_back(node);
@@ -128,7 +129,7 @@ void CKxTreeListViewCtrl::RemoveLeaving()
     while (here && !work->leaving.empty())
     {
         const HTREEITEM node = work->leaving.front();
-        if (work->leavesAll && IsAtOrBelow(*this, GetSelectedItem(), node))
+        if (work->leavesAll && IsAtOrBelow(NativeTree(*this), GetSelectedItem(), node))
             SelectItem(nullptr); // else one row after the other is selected
         if (!here || work->leaving.empty() || work->leaving.front() != node)
             continue;
@@ -146,14 +147,15 @@ LRESULT CKxTreeListViewCtrl::OnExpandNode(WPARAM wParam, LPARAM lParam)
 {
     const auto node = reinterpret_cast<HTREEITEM>(lParam);
     const bool resets = (wParam & TVE_COLLAPSERESET) != 0;
-    if (m_work->Removes() || (resets && !m_work->MayEmpty(*this, node)))
+    if (m_work->Removes() || (resets && !m_work->MayEmpty(NativeTree(*this), node)))
         return FALSE;
     TreeWork::Hold hold;
     hold.nodes[0] = node;
     hold.all = hold.removes = resets;
     if (resets)
     {
-        const auto isBelow = [&](HTREEITEM other) { return other != node && IsAtOrBelow(*this, other, node); };
+        const auto isBelow = [&](HTREEITEM other)
+        { return other != node && IsAtOrBelow(NativeTree(*this), other, node); };
         if (isBelow(m_editedItem))
             m_editedItem = nullptr;
         std::erase_if(m_work->leaving, isBelow);
@@ -167,7 +169,7 @@ LRESULT CKxTreeListViewCtrl::OnShowNode(WPARAM, LPARAM lParam)
 {
     TreeWork::Hold hold;
     hold.nodes[0] = reinterpret_cast<HTREEITEM>(lParam);
-    if (m_work->Removes() && (!m_work->Stays(*this, hold.nodes[0]) || isHidden(*this, hold.nodes[0])))
+    if (m_work->Removes() && (!m_work->Stays(NativeTree(*this), hold.nodes[0]) || isHidden(*this, hold.nodes[0])))
         return FALSE;
     const TreeWork::Scope working(m_work, hold);
     return Default();
@@ -175,5 +177,5 @@ LRESULT CKxTreeListViewCtrl::OnShowNode(WPARAM, LPARAM lParam)
 
 bool CKxTreeListViewCtrl::MayMove(HTREEITEM node, HTREEITEM parent) const
 {
-    return m_work->MayRemove(*this, node) && m_work->Stays(*this, parent);
+    return m_work->MayRemove(NativeTree(*this), node) && m_work->Stays(NativeTree(*this), parent);
 }

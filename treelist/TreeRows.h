@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "HeldNodes.h"
 #include "KnownNodes.h"
 #include "RowCells.h"
 #include "RowComparison.h"
@@ -146,7 +147,7 @@ public:
     Node Move(Node node, int& count, Node parent, Node after)
     {
         NodeBlock block;
-        if (m_tree.HasChildren(node) || IsAtOrBelow(parent, node) || IsAtOrBelow(after, node) ||
+        if (m_tree.HasChildren(node) || IsAtOrBelow(m_tree, parent, node) || IsAtOrBelow(m_tree, after, node) ||
             !m_tree.MayMove(node, parent) || !ReadWithCopy(node, block))
             return {};
         Delete(node, count);
@@ -158,7 +159,7 @@ public:
     {
         if (!m_tree.HasChildren(node))
             return Move(node, count, parent, after);
-        if (IsAtOrBelow(parent, node) || IsAtOrBelow(after, node) || !m_tree.MayMove(node, parent))
+        if (IsAtOrBelow(m_tree, parent, node) || IsAtOrBelow(m_tree, after, node) || !m_tree.MayMove(node, parent))
             return {};
         const Node moved = InsertCopy(node, parent, after);
         if (moved)
@@ -308,13 +309,6 @@ private:
             if (m_tree.HasChildren(node))
                 open.push_back(m_tree.FirstChild(node));
         }
-    }
-
-    bool IsAtOrBelow(Node node, Node above) const
-    {
-        while (node && node != above)
-            node = m_tree.Parent(node);
-        return static_cast<bool>(node);
     }
 
     /// What is to be inserted for a copy of `node`: its images, and a record with the same fields.

@@ -1,19 +1,8 @@
 // What the platform's tree is in the middle of, and which nodes it goes on with behind that.
 #include "TreeWork.h"
 
-#include <algorithm>
-
 namespace treelist
 {
-
-bool IsAtOrBelow(const CTreeCtrl& tree, HTREEITEM node, HTREEITEM above)
-{
-    if (above == TVI_ROOT)
-        return true;
-    while (node != nullptr && node != TVI_ROOT && node != above)
-        node = tree.GetParentItem(node);
-    return node != nullptr && node == above;
-}
 
 TreeWork::Hold TreeWork::HoldOf(const NMHDR& notification)
 {
@@ -30,8 +19,7 @@ TreeWork::Hold TreeWork::HoldOf(const NMHDR& notification)
         hold.all = hold.removes = true;
         break;
     case TVN_SELCHANGEDW:
-        if (!m_holds.empty())
-            m_holds.back() = Hold{{}, m_holds.back().all, false};
+        DoneWithNodes();
         break;
     case TVN_SELCHANGINGW:
     case TVN_ITEMEXPANDINGW:
@@ -50,40 +38,6 @@ TreeWork::Hold TreeWork::HoldOf(const NMHDR& notification)
         break;
     }
     return hold;
-}
-
-bool TreeWork::MayRemove(const CTreeCtrl& tree, HTREEITEM node) const
-{
-    return std::none_of(m_holds.begin(), m_holds.end(),
-                        [&](const Hold& hold) {
-                            return hold.all || IsAtOrBelow(tree, hold.nodes[0], node) ||
-                                   IsAtOrBelow(tree, hold.nodes[1], node);
-                        });
-}
-
-bool TreeWork::MayEmpty(const CTreeCtrl& tree, HTREEITEM node) const
-{
-    const auto isBelow = [&](HTREEITEM held) { return held != node && IsAtOrBelow(tree, held, node); };
-    return std::none_of(m_holds.begin(), m_holds.end(),
-                        [&](const Hold& hold) { return hold.all || isBelow(hold.nodes[0]) || isBelow(hold.nodes[1]); });
-}
-
-bool TreeWork::Stays(const CTreeCtrl& tree, HTREEITEM node) const
-{
-    return std::none_of(m_holds.begin(), m_holds.end(),
-                        [&](const Hold& hold) { return hold.removes && IsAtOrBelow(tree, node, hold.nodes[0]); });
-}
-
-bool TreeWork::Holds() const
-{
-    return std::any_of(m_holds.begin(), m_holds.end(),
-                       [](const Hold& hold)
-                       { return hold.all || hold.nodes[0] != nullptr || hold.nodes[1] != nullptr; });
-}
-
-bool TreeWork::Removes() const
-{
-    return std::any_of(m_holds.begin(), m_holds.end(), [](const Hold& hold) { return hold.removes; });
 }
 
 } // namespace treelist
