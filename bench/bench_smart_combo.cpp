@@ -4,11 +4,11 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
-#include <random>
 #include <string>
 #include <vector>
 #include "bench/Expression.h"
 #include "bench/Fastest.h"
+#include "bench/TextsInDisorder.h"
 #include "support/PlainSmartCombo.h"
 
 namespace
@@ -87,20 +87,6 @@ void judge(const std::vector<Rule>& rules, const wchar_t* text)
 
 // ---- Many values
 
-void fillValues(CStringList& values, int count)
-{
-    std::vector<CString> texts;
-    for (int i = 0; i < count; ++i)
-    {
-        CString text;
-        text.Format(i % 3 == 0 ? L"Poutre %06d" : L"poteau %06d", i);
-        texts.push_back(text);
-    }
-    std::shuffle(texts.begin(), texts.end(), std::mt19937(20240620)); // a fixed seed
-    for (const CString& text : texts)
-        values.AddTail(text);
-}
-
 struct Times
 {
     double fill;
@@ -148,7 +134,8 @@ void grow()
     for (const int count : {1000, 10000, 100000})
     {
         CStringList values;
-        fillValues(values, count);
+        for (const CString& text : bench::textsInDisorder(count))
+            values.AddTail(text);
         const Times quick = quickTimes(values);
         const double unit = yardstick(values);
         std::printf("%-8d %11.2f %11.2f %11.2f %9.2f %9.2f", count, quick.fill / 1e6, quick.sort / 1e6, unit / 1e6,

@@ -1,6 +1,7 @@
 // The property sheet that can take its OK button away.
 #include "oxa/dialogs/KxPropertySheet.h"
 
+#include "../frame/Surviving.h"
 #include "BarColors.h"
 
 BEGIN_MESSAGE_MAP(CKxPropertySheet, CPropertySheet)
@@ -51,9 +52,9 @@ bool CKxPropertySheet::IsPropertySheetDisabled()
 
 BOOL CKxPropertySheet::OnInitDialog()
 {
-    const HWND self = m_hWnd;
+    const Surviving here(*this);
     CPropertySheet::OnInitDialog();
-    if (FromHandlePermanent(self) != this)
+    if (!here)
         return TRUE; // the first page ended the sheet
     // The virtual is asked only where its answer counts.
     if (m_bProtectionDisabled || !SheetRules::DisablesOk(false, m_bDisabled, m_bDisabled || IsPropertySheetDisabled()))

@@ -6,9 +6,9 @@
 #include <chrono>
 #include <cmath>
 #include <cstdio>
-#include <random>
 #include <vector>
 
+#include "bench/TextsInDisorder.h"
 #include "oxa/formats/KxSmartComboBox.h"
 #include "oxa/units/KxComboBoxUnit.h"
 
@@ -76,19 +76,6 @@ void compareUnitCombos(CWnd& parent)
 
 // ---- Many values in a smart combo box
 
-std::vector<CString> textsInDisorder(int values)
-{
-    std::vector<CString> texts;
-    for (int i = 0; i < values; ++i)
-    {
-        CString text;
-        text.Format(i % 3 == 0 ? L"Poutre %06d" : L"poteau %06d", i);
-        texts.push_back(text);
-    }
-    std::shuffle(texts.begin(), texts.end(), std::mt19937(20261122)); // a fixed seed
-    return texts;
-}
-
 /// A sorted combo box of the platform that is asked for each text whether it has it, and gets it if not.
 double plainFill(CWnd& parent, const std::vector<CString>& texts)
 {
@@ -110,7 +97,7 @@ void showGrowth(CWnd& parent)
     std::printf("%-8s %10s %10s %12s %12s %12s\n", "values", "fill", "sort", "fill/nlogn", "sort/nlogn", "fill/plain");
     for (const int values : {1000, 10000, 100000})
     {
-        const std::vector<CString> texts = textsInDisorder(values);
+        const std::vector<CString> texts = bench::textsInDisorder(values);
         CStringList list;
         for (const CString& text : texts)
             list.AddTail(text);

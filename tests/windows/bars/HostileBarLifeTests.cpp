@@ -51,6 +51,17 @@ protected:
     }
 };
 
+/// Ends a bar by its window (0), by its frame (1), or by its object (2).
+void endBar(int way, CDialogBar* bar, CFrameWnd& frame)
+{
+    if (way == 0)
+        bar->DestroyWindow();
+    else if (way == 1)
+        frame.DestroyWindow();
+    else
+        delete bar;
+}
+
 void paintNow(HWND bar)
 {
     ::RedrawWindow(bar, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
@@ -99,15 +110,7 @@ TEST(HostileBarLife, any_message_may_end_bar_frame_or_object)
                     bar->deleted = &deleted;
                     bar->at = message;
                     bar->before = before;
-                    bar->act = [&]
-                    {
-                        if (way == 0)
-                            bar->DestroyWindow();
-                        else if (way == 1)
-                            frame.DestroyWindow();
-                        else
-                            delete bar;
-                    };
+                    bar->act = [&] { endBar(way, bar, frame); };
                     bar->Create(&frame, IDD_PALE_BAR, CBRS_TOP, 1);
                     if (frame.m_hWnd != nullptr)
                         frame.RecalcLayout();
@@ -141,15 +144,7 @@ TEST(HostileBarLife, a_control_that_is_asked_may_end_bar_frame_or_object)
         ASSERT_TRUE(bar->Create(&frame, IDD_PALE_BAR, CBRS_TOP, 1));
         AskedButton button;
         ASSERT_TRUE(button.Create(L"", WS_CHILD, CRect(0, 0, 9, 9), bar, 50));
-        button.act = [&]
-        {
-            if (way == 0)
-                bar->DestroyWindow();
-            else if (way == 1)
-                frame.DestroyWindow();
-            else
-                delete bar;
-        };
+        button.act = [&] { endBar(way, bar, frame); };
         bar->SendMessage(WM_CTLCOLORBTN, 0, reinterpret_cast<LPARAM>(button.m_hWnd));
         EXPECT_EQ(deleted, way == 2);
         EXPECT_EQ(button.m_hWnd, nullptr);
