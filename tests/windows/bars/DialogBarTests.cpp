@@ -383,6 +383,12 @@ TEST(DialogBar, a_missing_bitmap_leaves_the_look_off)
 
 // ---- Disabled children
 
+TEST(DialogBar, is_not_disabled_unless_its_host_says_so)
+{
+    CKxDialogBarEx bar;
+    EXPECT_FALSE(bar.IsDlgBarDisabled());
+}
+
 TEST(DialogBar, a_finished_bar_that_is_disabled_disables_its_children)
 {
     BarHost host;

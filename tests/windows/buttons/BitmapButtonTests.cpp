@@ -290,6 +290,17 @@ TEST(BitmapButtonAlone, forgets_the_bitmap_of_an_icon_but_deletes_its_disabled_f
     EXPECT_EQ(menuAndIconCount(), icons);
 }
 
+TEST(BitmapButtonAlone, forgets_the_icon_of_a_bitmap)
+{
+    const int icons = menuAndIconCount();
+    {
+        OpenButton button;
+        ASSERT_TRUE(button.SetIcon(IDI_BLUE, 16, 16));
+        ASSERT_TRUE(button.SetBitmap(IDB_SQUARE, 16, 16));
+    }
+    EXPECT_EQ(menuAndIconCount(), icons + 1) << "the icon stays for good";
+}
+
 // ---- Painting
 
 TEST_F(BitmapButton, looks_like_a_push_button)
